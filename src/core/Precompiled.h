@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QtCore/QtCore>
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>

@@ -1,0 +1,129 @@
+#pragma once
+
+#include "core/Types.h"
+
+#include <QColor>
+#include <QString>
+#include <QTableView>
+
+class GridModel;
+
+/// How a column's cells compare when it is sorted.
+enum class SortType
+{
+    Text,   ///< without case
+    Number, ///< by value, cells that are no number lowest
+    Date = 200 ///< by the date's value, cells that are no date lowest
+};
+
+/// One column as it is declared.
+struct GridColumn
+{
+    QString Key;
+    QString Header;
+    QString HeaderIcon; ///< name of a picture shown in place of the header text
+    int Width = 100;    ///< pixels
+    Qt::Alignment Alignment = Qt::AlignLeft | Qt::AlignVCenter;
+    bool Visible = true;
+    SortType Sort = SortType::Text;
+};
+
+/// The list of every window. Rows and columns count from 1; each row carries the ID of its record as item data.
+/// SelectionChange is raised by the person's keys and mouse only: never by code, by sorting or by the removal of a row.
+/// A hidden row is never current, highlighted or part of a range.
+class Grid : public QTableView
+{
+    Q_OBJECT
+
+public:
+    explicit Grid(QWidget* parent = nullptr);
+    ~Grid() override;
+
+    // Columns.
+    int AddColumn(const GridColumn& column);
+    [[nodiscard]] int Columns() const;
+    /// The position of the column with this key, 0 where there is none.
+    [[nodiscard]] int ColumnIndex(QStringView key) const;
+    [[nodiscard]] const GridColumn& Column(int column) const;
+    /// Fits the column to the widest text that it now holds.
+    void AutoWidthColumn(int column);
+
+    // Rows.
+    /// Takes all rows away and keeps the columns.
+    void Clear();
+    void ClearWithColumns();
+    [[nodiscard]] int Rows() const;
+    /// Adds a row at the end, or before row `before`; returns its number.
+    int AddRow(Long itemData = 0, int before = 0);
+    void RemoveRow(int row);
+    [[nodiscard]] Long RowItemData(int row) const;
+    void SetRowItemData(int row, Long itemData);
+    /// The first row with this item data, 0 where there is none.
+    [[nodiscard]] int FindRow(Long itemData) const;
+    [[nodiscard]] bool RowVisible(int row) const;
+    void SetRowVisible(int row, bool visible);
+
+    // Cells. A row or column that is not there raises 9.
+    [[nodiscard]] QString CellText(int row, int column) const;
+    void SetCellText(int row, int column, const QString& text);
+    void SetCellText(int row, QStringView key, const QString& text);
+    [[nodiscard]] QString CellIcon(int row, int column) const;
+    /// Shows the picture of this name in the cell; "" takes it away.
+    void SetCellIcon(int row, int column, const QString& name);
+    [[nodiscard]] QColor CellColor(int row, int column) const;
+    /// The text colour of a cell; an invalid colour goes back to the grid's own.
+    void SetCellColor(int row, int column, const QColor& color);
+    [[nodiscard]] QColor CellBackColor(int row, int column) const;
+    void SetCellBackColor(int row, int column, const QColor& color);
+    [[nodiscard]] QFont CellFont(int row, int column) const;
+    void SetCellFont(int row, int column, const QFont& font);
+    void ResetCellFont(int row, int column);
+
+    // Selection. Rows are highlighted whole; the current row and column are one cell. 0 means none.
+    [[nodiscard]] int SelectedRow() const;
+    void SetSelectedRow(int row);
+    [[nodiscard]] int SelectedCol() const;
+    void SetSelectedCol(int column);
+    /// Makes (row, column) the current cell and highlights only its row.
+    void SelectCell(int row, int column);
+    [[nodiscard]] bool CellSelected(int row, int column) const;
+    /// Highlights a row, or takes its highlight away; the current cell stays.
+    void SetRowSelected(int row, bool selected);
+    void ClearHighlight();
+    /// How many rows are highlighted.
+    [[nodiscard]] int SelectionCount() const;
+    void EnsureVisible(int row, int column);
+
+    // Sorting.
+    /// Sorts stably by a column; direction 1 is ascending, 2 descending. The current row and the highlights follow their rows.
+    void Sort(int column, SortType type, int direction);
+    /// The direction that is kept on a column; 0 at first.
+    [[nodiscard]] int SortOrder(int column) const;
+    void SetSortOrder(int column, int direction);
+
+    // Look.
+    void SetRedraw(bool on);
+    /// Shows a picture behind the rows; "" or an unreadable file shows none.
+    void SetBackgroundPicture(const QString& path);
+
+Q_SIGNALS:
+    void SelectionChange();
+    void ColumnClick(int column);
+    void DblClick(int row, int column);
+    void MouseDown(Qt::MouseButton button);
+    void MouseUp(Qt::MouseButton button, QPoint globalPosition);
+    /// A key that reaches the grid, before the grid's own use of it; `code` as in core/FieldRules.h for Delete, Enter, Esc.
+    void KeyDown(int code);
+
+private:
+    GridModel* m_model;
+};
+
+/// Adds a row at the end with `text` in its first column.
+int AddGridRow(Grid& grid, const QString& text, Long itemData = 0);
+/// Whether any cell of the row is highlighted.
+[[nodiscard]] bool AnySelectedCol(int row, const Grid& grid);
+/// The sort of a click on a column header: by date where the column's first filled cell is a date, otherwise by the column's
+/// declared type. The direction is kept on column 1 whatever column was clicked, which is meant: the first click on a fresh
+/// grid sorts with direction 2 and each later click on any column flips it. Row 1 becomes the selected row.
+void SortGrid(Grid& grid, int column);
