@@ -1,0 +1,63 @@
+#include "core/adodb/Connection.h"
+
+#include "core/adodb/Engine.h"
+#include "core/RunTimeError.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+Connection gConn;
+
+Connection::Connection() = default;
+Connection::~Connection() = default;
+
+void Connection::Open(const QString& connectionString)
+{
+    if (m_engine)
+        throw RunTimeError(ErrorNumber::ObjectOpen);
+    constexpr auto pathMark = "Dbq="_L1;
+    constexpr auto keyMark = ";Password="_L1;
+    const qsizetype path = connectionString.indexOf(pathMark, 0, Qt::CaseInsensitive) + pathMark.size();
+    // The key has no semicolon; a folder's name may have one.
+    const qsizetype key = connectionString.lastIndexOf(keyMark, -1, Qt::CaseInsensitive);
+    if (path < pathMark.size() || key < path)
+        throw RunTimeError(ErrorNumber::EngineFailure,
+                           DriverMessage(u"Data source name not found and no default driver specified"_s));
+    QString file = connectionString.mid(path, key - path);
+    file.replace(u'\\', QDir::separator());
+    m_engine = std::make_unique<Engine>(file, connectionString.mid(key + keyMark.size()));
+}
+
+void Connection::Close()
+{
+    m_engine.reset();
+}
+
+void Connection::Execute(const QString& statement)
+{
+    Engine& engine = OpenEngine();
+    Record(statement);
+    const TranslatedStatement translated = Translate(statement);
+    const auto running = engine.Prepare(translated.Text, translated.Literals, translated.Reusable);
+    while (running->Step()) {
+    }
+}
+
+void Connection::Record(const QString& statement) const
+{
+    if (m_recorder)
+        m_recorder(statement);
+}
+
+Engine& Connection::OpenEngine()
+{
+    if (!m_engine)
+        throw RunTimeError(3709);
+    return *m_engine;
+}
+
+QString FixQuotes(const QString& text)
+{
+    return QString(text).replace(u'\'', "''"_L1);
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <memory>
+
+class Engine;
+
+enum class ObjectState
+{
+    Closed,
+    Open
+};
+
+/// The connection to the database file. Every statement is handed over as a whole text.
+class Connection
+{
+public:
+    Connection();
+    ~Connection();
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    /// Opens the file that the connection string names by "Dbq=", with the key behind "Password=". Backslashes in the path
+    /// are folder separators. Raises 3705 where it is open already, the engine's errors where the file is missing, damaged or
+    /// of another key. Nothing is ever created.
+    void Open(const QString& connectionString);
+    void Close();
+    [[nodiscard]] ObjectState State() const { return m_engine ? ObjectState::Open : ObjectState::Closed; }
+
+    /// Runs one Insert, Update or Delete. When it returns, the change is safe on the disk. Raises 3704 where the connection is
+    /// closed, and the engine's errors.
+    void Execute(const QString& statement);
+
+    /// Is told every statement, in its order, before it runs.
+    void SetRecorder(std::function<void(const QString&)> recorder) { m_recorder = std::move(recorder); }
+
+private:
+    friend class Recordset;
+    void Record(const QString& statement) const;
+    /// Raises 3709 where the connection is closed.
+    [[nodiscard]] Engine& OpenEngine();
+
+    std::unique_ptr<Engine> m_engine;
+    std::function<void(const QString&)> m_recorder;
+};
+
+/// The text with each apostrophe doubled, for a literal between apostrophes.
+[[nodiscard]] QString FixQuotes(const QString& text);
+
+/// The one connection of the program.
+extern Connection gConn;

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "core/adodb/Dialect.h"
+
+#include <QHash>
+#include <QString>
+#include <memory>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+/// One open SQLCipher file and the prepared forms of its statements. Only Connection and Recordset see it.
+class Engine
+{
+public:
+    /// A statement that is being run; reset and given back to the store of prepared forms when it goes away.
+    class Running
+    {
+    public:
+        Running(Engine& engine, sqlite3_stmt* statement, bool kept);
+        ~Running();
+        Running(const Running&) = delete;
+        Running& operator=(const Running&) = delete;
+
+        /// True while there is a row. Raises the engine's error.
+        [[nodiscard]] bool Step();
+        [[nodiscard]] sqlite3_stmt* Handle() const { return m_statement; }
+
+    private:
+        Engine& m_engine;
+        sqlite3_stmt* m_statement;
+        bool m_kept;
+    };
+
+    /// Opens an existing file with its key. Raises EnginePassword where the key does not fit (or the file is no database),
+    /// EngineFailure where it is missing or can't be read. Changes nothing where it raises.
+    Engine(const QString& path, const QString& password);
+    ~Engine();
+    Engine(const Engine&) = delete;
+    Engine& operator=(const Engine&) = delete;
+
+    /// Prepares `text`, or takes its kept form, and binds the literals in their order. Only Select, Insert, Update and Delete
+    /// on the known tables are accepted.
+    [[nodiscard]] std::unique_ptr<Running> Prepare(const QString& text, const std::vector<QVariant>& literals, bool keep);
+
+    /// The engine's last fault as an error of the program.
+    [[noreturn]] void RaiseLast() const;
+
+private:
+    void Configure();
+    [[nodiscard]] QString Pragma(const char* text) const;
+    [[nodiscard]] sqlite3_stmt* Compile(const QString& text) const;
+    void Bind(sqlite3_stmt* statement, const std::vector<QVariant>& literals) const;
+
+    sqlite3* m_database = nullptr;
+    QHash<QString, sqlite3_stmt*> m_kept;
+};

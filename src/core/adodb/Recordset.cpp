@@ -1,0 +1,254 @@
+#include "core/adodb/Recordset.h"
+
+#include "core/adodb/Connection.h"
+#include "core/adodb/Engine.h"
+#include "core/adodb/RowPack.h"
+#include "core/RunTimeError.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The rows carry their row number as one more column behind those that were asked for.
+QString WithRowNumber(const QString& selectAll)
+{
+    constexpr auto head = "Select *"_L1;
+    return u"SELECT *, rowid"_s + selectAll.mid(head.size());
+}
+
+QVariant ToLiteral(const Value& value)
+{
+    if (value.IsNull())
+        return {};
+    if (const QString* text = value.AsText())
+        return *text;
+    const QString text = value.Text();
+    bool whole = false;
+    const qint64 number = text.toLongLong(&whole);
+    return whole ? QVariant(number) : QVariant(text.toDouble());
+}
+
+} // namespace
+
+Value Recordset::Field::Get() const
+{
+    m_owner.RequireRow();
+    const auto pending = m_owner.m_pending.find(m_column);
+    return pending != m_owner.m_pending.end() ? pending->second : m_owner.m_rows->At(m_owner.m_row, m_column);
+}
+
+void Recordset::Field::Set(Value value) const
+{
+    m_owner.RequireRow();
+    m_owner.RequireUpdatable();
+    m_owner.m_pending.insert_or_assign(m_column, std::move(value));
+}
+
+Recordset::Recordset() = default;
+Recordset::~Recordset() = default;
+
+void Recordset::Open(const QString& statement, Connection& connection)
+{
+    if (m_rows)
+        throw RunTimeError(ErrorNumber::ObjectOpen);
+    m_connection = &connection;
+    m_statement = statement;
+    Fetch();
+}
+
+void Recordset::Fetch()
+{
+    Engine& engine = m_connection->OpenEngine();
+    m_connection->Record(m_statement);
+    const TranslatedStatement translated = Translate(m_statement);
+    m_table = LockType == ::LockType::ReadOnly ? QString() : translated.UpdatableTable;
+    const QString text = m_table.isEmpty() ? translated.Text : WithRowNumber(translated.Text);
+    const auto running = engine.Prepare(text, translated.Literals, translated.Reusable);
+    m_rows = std::make_unique<RowPack>(running->Handle(), [&running] { return running->Step(); });
+    m_row = 0;
+    m_pending.clear();
+}
+
+void Recordset::Close()
+{
+    RequireOpen();
+    m_rows.reset();
+    m_pending.clear();
+}
+
+int Recordset::RecordCount() const
+{
+    RequireOpen();
+    return CursorLocation == ::CursorLocation::UseClient ? static_cast<int>(m_rows->Rows()) : -1;
+}
+
+bool Recordset::Bof() const
+{
+    RequireOpen();
+    return m_rows->Rows() == 0;
+}
+
+bool Recordset::Eof() const
+{
+    RequireOpen();
+    return m_row >= m_rows->Rows();
+}
+
+void Recordset::MoveFirst()
+{
+    RequireOpen();
+    if (m_rows->Rows() == 0)
+        throw RunTimeError(ErrorNumber::NoCurrentRecord);
+    m_pending.clear();
+    m_row = 0;
+}
+
+void Recordset::MoveLast()
+{
+    MoveFirst();
+    m_row = m_rows->Rows() - 1;
+}
+
+void Recordset::MoveNext()
+{
+    if (Eof())
+        throw RunTimeError(ErrorNumber::NoCurrentRecord);
+    m_pending.clear();
+    ++m_row;
+}
+
+void Recordset::Find(const QString& criterion)
+{
+    RequireOpen();
+    const qsizetype equals = criterion.indexOf(u'=');
+    if (equals < 0)
+        throw RunTimeError(3001);
+    const int column = FindColumn(QStringView(criterion).left(equals).trimmed());
+    QString wanted = criterion.mid(equals + 1).trimmed();
+    if (wanted.size() >= 2 && wanted.startsWith(u'\'') && wanted.endsWith(u'\''))
+        wanted = wanted.mid(1, wanted.size() - 2).replace("''"_L1, "'"_L1);
+    m_pending.clear();
+    const auto matches = [&] {
+        return !m_rows->IsDeleted(m_row) &&
+               m_rows->At(m_row, column).Text().compare(wanted, Qt::CaseInsensitive) == 0;
+    };
+    while (m_row < m_rows->Rows() && !matches())
+        ++m_row;
+}
+
+int Recordset::FieldCount() const
+{
+    RequireOpen();
+    return m_rows->Columns() - (m_table.isEmpty() ? 0 : 1);
+}
+
+QString Recordset::FieldName(int column) const
+{
+    if (column < 0 || column >= FieldCount())
+        throw RunTimeError(ErrorNumber::ItemNotFound);
+    return m_rows->Column(column).Name;
+}
+
+Recordset::Field Recordset::Fields(QLatin1StringView name)
+{
+    RequireOpen();
+    // Records read their columns mostly in the order of the table: the next one is the best guess.
+    const int next = m_lastColumn + 1;
+    if (next < FieldCount() && m_rows->Column(next).Name.compare(name, Qt::CaseInsensitive) == 0) {
+        m_lastColumn = next;
+        return {*this, next};
+    }
+    return Fields(QString(name));
+}
+
+Recordset::Field Recordset::Fields(const QString& name)
+{
+    RequireOpen();
+    m_lastColumn = FindColumn(name);
+    return {*this, m_lastColumn};
+}
+
+Recordset::Field Recordset::Fields(int column)
+{
+    if (column < 0 || column >= FieldCount())
+        throw RunTimeError(ErrorNumber::ItemNotFound);
+    return {*this, column};
+}
+
+int Recordset::FindColumn(QStringView name)
+{
+    for (int i = 0; i < FieldCount(); ++i) {
+        if (m_rows->Column(i).Name.compare(name, Qt::CaseInsensitive) == 0)
+            return i;
+    }
+    throw RunTimeError(ErrorNumber::ItemNotFound);
+}
+
+void Recordset::Update()
+{
+    RequireRow();
+    RequireUpdatable();
+    if (m_pending.empty())
+        return;
+    QString text = u"UPDATE [%1] SET "_s.arg(m_table);
+    std::vector<QVariant> values;
+    for (const auto& [column, value] : m_pending) {
+        text += u"%1[%2]=?"_s.arg(values.empty() ? QString() : u", "_s, m_rows->Column(column).Name);
+        values.push_back(ToLiteral(value));
+    }
+    values.push_back(RowId());
+    const auto running = m_connection->OpenEngine().Prepare(text + u" WHERE rowid=?"_s, values, true);
+    (void)running->Step();
+    for (auto& [column, value] : m_pending)
+        m_rows->SetValue(m_row, column, std::move(value));
+    m_pending.clear();
+}
+
+void Recordset::Delete()
+{
+    RequireRow();
+    RequireUpdatable();
+    const auto running =
+        m_connection->OpenEngine().Prepare(u"DELETE FROM [%1] WHERE rowid=?"_s.arg(m_table), {RowId()}, true);
+    (void)running->Step();
+    m_rows->MarkDeleted(m_row);
+    m_pending.clear();
+}
+
+void Recordset::Requery()
+{
+    RequireOpen();
+    Fetch();
+}
+
+void Recordset::Resync()
+{
+    RequireOpen();
+    const qsizetype row = m_row;
+    Fetch();
+    m_row = std::min(row, m_rows->Rows());
+}
+
+void Recordset::RequireOpen() const
+{
+    if (!m_rows)
+        throw RunTimeError(ErrorNumber::ObjectClosed);
+}
+
+void Recordset::RequireRow() const
+{
+    RequireOpen();
+    if (m_row >= m_rows->Rows() || m_rows->IsDeleted(m_row))
+        throw RunTimeError(ErrorNumber::NoCurrentRecord);
+}
+
+void Recordset::RequireUpdatable() const
+{
+    if (m_table.isEmpty())
+        throw RunTimeError(3251);
+}
+
+qint64 Recordset::RowId() const
+{
+    return m_rows->At(m_row, m_rows->Columns() - 1).Text().toLongLong();
+}

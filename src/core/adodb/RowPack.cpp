@@ -1,0 +1,173 @@
+#include "core/adodb/RowPack.h"
+
+#include "core/adodb/StoredText.h"
+#include "core/Convert.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <sqlcipher/sqlite3.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A cell is a mark of its type and its payload: 8 bytes of a number; or 4 of a length and the text.
+constexpr char nullMark = 0;
+constexpr char wholeMark = 1;
+constexpr char realMark = 2;
+constexpr char textMark = 3;
+
+ColumnKind KindOf(const char* declaredType)
+{
+    const QByteArray type = QByteArray(declaredType).toUpper();
+    if (type.contains("INT"))
+        return ColumnKind::Whole;
+    if (type.startsWith("CURRENCY"))
+        return ColumnKind::Currency;
+    if (type.startsWith("SINGLE"))
+        return ColumnKind::Real;
+    return ColumnKind::Text;
+}
+
+template <typename Number>
+void Append(std::vector<char>& bytes, char mark, Number payload)
+{
+    const size_t start = bytes.size();
+    bytes.resize(start + 1 + sizeof payload);
+    bytes[start] = mark;
+    std::memcpy(bytes.data() + start + 1, &payload, sizeof payload);
+}
+
+template <typename Number>
+Number Read(const char* bytes)
+{
+    Number number;
+    std::memcpy(&number, bytes, sizeof number);
+    return number;
+}
+
+Value RealValue(double number, ColumnKind kind)
+{
+    switch (kind) {
+    case ColumnKind::Currency:
+        return Value(Currency::FromScaled(std::llround(number * static_cast<double>(Currency::Scale))));
+    case ColumnKind::Real:
+        return Value(static_cast<Single>(number));
+    case ColumnKind::Whole:
+        return Value(static_cast<qint64>(std::llround(number)));
+    case ColumnKind::Text:
+        break;
+    }
+    return Value(CStr(number));
+}
+
+Value WholeValue(qint64 number, ColumnKind kind)
+{
+    switch (kind) {
+    case ColumnKind::Currency:
+    case ColumnKind::Real:
+        return RealValue(static_cast<double>(number), kind);
+    case ColumnKind::Whole:
+        return Value(number);
+    case ColumnKind::Text:
+        break;
+    }
+    return Value(CStr(number));
+}
+
+} // namespace
+
+RowPack::RowPack(sqlite3_stmt* statement)
+{
+    auto columns = std::make_shared<ColumnList>();
+    const int count = sqlite3_column_count(statement);
+    columns->reserve(static_cast<size_t>(count));
+    for (int i = 0; i < count; ++i)
+        columns->push_back({QString::fromUtf8(sqlite3_column_name(statement, i)),
+                            KindOf(sqlite3_column_decltype(statement, i))});
+    m_columns = std::move(columns);
+}
+
+void RowPack::AppendRow(sqlite3_stmt* statement)
+{
+    m_rowStarts.push_back(m_bytes.size());
+    const int count = Columns();
+    for (int i = 0; i < count; ++i) {
+        switch (sqlite3_column_type(statement, i)) {
+        case SQLITE_INTEGER:
+            Append(m_bytes, wholeMark, static_cast<qint64>(sqlite3_column_int64(statement, i)));
+            break;
+        case SQLITE_FLOAT:
+            Append(m_bytes, realMark, sqlite3_column_double(statement, i));
+            break;
+        case SQLITE_NULL:
+            m_bytes.push_back(nullMark);
+            break;
+        default: {
+            const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, i));
+            const int length = sqlite3_column_bytes(statement, i);
+            Append(m_bytes, textMark, static_cast<quint32>(length));
+            m_bytes.insert(m_bytes.end(), text, text + length);
+        }
+        }
+    }
+}
+
+void RowPack::LocateCells(qsizetype row) const
+{
+    m_cellStarts.clear();
+    size_t position = m_rowStarts[static_cast<size_t>(row)];
+    for (int i = 0; i < Columns(); ++i) {
+        m_cellStarts.push_back(position);
+        switch (m_bytes[position]) {
+        case nullMark:
+            position += 1;
+            break;
+        case textMark:
+            position += 1 + sizeof(quint32) + Read<quint32>(m_bytes.data() + position + 1);
+            break;
+        default:
+            position += 1 + sizeof(qint64);
+        }
+    }
+    m_locatedRow = row;
+}
+
+Value RowPack::At(qsizetype row, int column) const
+{
+    for (const Change& change : m_changes) {
+        if (change.Row == row && change.Column == column)
+            return change.NewValue;
+    }
+    if (m_locatedRow != row)
+        LocateCells(row);
+    const char* cell = m_bytes.data() + m_cellStarts[static_cast<size_t>(column)];
+    const ColumnKind kind = Column(column).Kind;
+    switch (cell[0]) {
+    case wholeMark:
+        return WholeValue(Read<qint64>(cell + 1), kind);
+    case realMark:
+        return RealValue(Read<double>(cell + 1), kind);
+    case textMark:
+        return Value(FromStored(cell + 1 + sizeof(quint32), Read<quint32>(cell + 1)));
+    default:
+        return {};
+    }
+}
+
+void RowPack::SetValue(qsizetype row, int column, Value value)
+{
+    std::erase_if(m_changes, [&](const Change& change) { return change.Row == row && change.Column == column; });
+    m_changes.push_back({row, column, std::move(value)});
+}
+
+void RowPack::MarkDeleted(qsizetype row)
+{
+    m_deleted.insert(row);
+}
+
+bool RowPack::IsDeleted(qsizetype row) const
+{
+    return m_deleted.contains(row);
+}

@@ -1,0 +1,3 @@
+#include "model/Openers.h"
+
+Openers gOpeners;

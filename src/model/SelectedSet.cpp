@@ -1,0 +1,94 @@
+#include "model/SelectedSet.h"
+
+#include "core/Convert.h"
+#include "core/Trap.h"
+#include "model/Contact.h"
+#include "model/faces.h"
+#include "model/Main.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+void SelectedSet::Add(Long id)
+{
+    if (Contains(id))
+        return;
+    m_order.push_back(id);
+    m_index.emplace(id, std::prev(m_order.end()));
+}
+
+void SelectedSet::Remove(Long id)
+{
+    const auto found = m_index.find(id);
+    if (found == m_index.end())
+        return;
+    m_order.erase(found->second);
+    m_index.erase(found);
+}
+
+void SelectedSet::RemoveAll()
+{
+    m_order.clear();
+    m_index.clear();
+}
+
+Long SelectedSet::Last() const
+{
+    if (m_order.empty())
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+    return m_order.back();
+}
+
+void ShowSelectedCount()
+{
+    auto* main = Face<MainFace>::Get();
+    if (main == nullptr)
+        return;
+    const qsizetype count = gSelected.Count();
+    main->ShowSelectedMenu(count > 0);
+    if (count == 0)
+        main->SetPanel(3, {});
+    else
+        main->SetPanel(3, u" "_s + CStr(qint64{count}) + (count == 1 ? u" selected contact"_s : u" selected contacts"_s));
+}
+
+namespace {
+
+void MarkCurContact(bool selected)
+{
+    curContact->Selected = selected;
+    if (auto* rolodex = Face<RolodexFace>::Get())
+        rolodex->SelectInRolodex(selected);
+    ShowSelectedCount();
+    if (auto* list = Face<ContactListFace>::Get())
+        list->ShowChecked(curContact->RecID, selected);
+    if (auto* found = Face<FoundFace>::Get())
+        found->MarkSelected(curContact->RecID, selected);
+}
+
+} // namespace
+
+void SelectCurContact()
+{
+    Trap(u"SelectCurContact Error #"_s, Icon::Information, [] {
+        if (!curContact)
+            throw RunTimeError(ErrorNumber::ObjectNotSet);
+        if (curContact->Selected)
+            return;
+        gSelected.Add(curContact->RecID);
+        MarkCurContact(true);
+    });
+}
+
+void UnSelectCurContact()
+{
+    Trap(u"UnSelectCurContact Error #"_s, Icon::Information, [] {
+        if (!curContact)
+            throw RunTimeError(ErrorNumber::ObjectNotSet);
+        if (!curContact->Selected)
+            return;
+        gSelected.Remove(curContact->RecID);
+        MarkCurContact(false);
+    });
+}
