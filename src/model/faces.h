@@ -61,6 +61,7 @@ class TreeFace
 {
 public:
     virtual ~TreeFace() = default;
+    [[nodiscard]] virtual int NodeCount() const = 0;
     /// The key of the selected node, "" without one.
     [[nodiscard]] virtual QString SelectedKey() const = 0;
     /// The key of the selected node's parent, "" for a category.

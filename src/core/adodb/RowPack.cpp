@@ -21,11 +21,11 @@ constexpr char textMark = 3;
 ColumnKind KindOf(const char* declaredType)
 {
     const QByteArray type = QByteArray(declaredType).toUpper();
-    if (type.contains("INT"))
+    if (type.startsWith("INTEGER") || type == "LONG")
         return ColumnKind::Whole;
-    if (type.startsWith("CURRENCY"))
+    if (type == "CURRENCY")
         return ColumnKind::Currency;
-    if (type.startsWith("SINGLE"))
+    if (type.startsWith("REAL"))
         return ColumnKind::Real;
     return ColumnKind::Text;
 }
