@@ -11,6 +11,7 @@
 #include "ui/frame/Menus.h"
 #include "ui/frame/SettingsMenu.h"
 #include "ui/frame/StatusPanels.h"
+#include "ui/widgets/Forms.h"
 
 #include <QAction>
 #include <QMenu>
@@ -55,7 +56,7 @@ frmMain::~frmMain() = default;
 
 void frmMain::Form_Load()
 {
-    CenterForm();
+    CenterForm(*this);
     LoadSettings();
     m_clock->ShowSettings();
     // The names of the program's own title and of its windows are the same until a category is clicked.
@@ -72,13 +73,12 @@ void frmMain::Form_Activate()
     });
 }
 
-bool frmMain::Form_QueryUnload()
+void frmMain::Form_QueryUnload(bool&, UnloadMode)
 {
     UnloadAllForms(QString());
-    return true;
 }
 
-void frmMain::Form_Unload()
+void frmMain::Form_Unload(bool&)
 {
     UnloadAllForms(QString());
 }

@@ -54,8 +54,8 @@ public:
 
 protected:
     void Form_Activate() override;
-    bool Form_QueryUnload() override;
-    void Form_Unload() override;
+    void Form_QueryUnload(bool& cancel, UnloadMode mode) override;
+    void Form_Unload(bool& cancel) override;
 
 private:
     void Form_Load();

@@ -1,0 +1,47 @@
+#include "app/Composition.h"
+
+#include "editors/Editors.h"
+#include "model/DeleteContacts.h"
+#include "model/Openers.h"
+#include "organise/CategoryTree.h"
+#include "organise/frmList.h"
+#include "ui/frame/Menus.h"
+#include "ui/widgets/UserWindows.h"
+
+using namespace Qt::StringLiterals;
+
+Composition::Composition() : m_tree(new CategoryTree(m_main))
+{
+    // The main window is the last to go, and everything hangs on it: it outlives its own unloading.
+    m_main.SetDeleteOnUnload(false);
+    m_main.AddContactsPanel(m_tree, 1);
+    PlugOpeners();
+    PlugSelectedMenu();
+}
+
+Composition::~Composition()
+{
+    gOpeners = {};
+}
+
+void Composition::PlugOpeners()
+{
+    gOpeners.ContactEditor = [] { ShowContactEditor(); };
+    gOpeners.Notes = [] { ShowNotes(); };
+    gOpeners.ContactList = [this] { ShowContactList(&m_main); };
+}
+
+void Composition::PlugSelectedMenu()
+{
+    Menus& menus = m_main.MainMenus();
+    menus.Plug(u"mnuDeleteSelectedContacts"_s, &m_main, [] { DeleteContacts(DeleteMode::Selected); });
+    menus.PlugOpener(u"mnuManageAlerts"_s, &m_main, gOpeners.ManageAlerts);
+    menus.PlugOpener(u"mnuSetNewAlert"_s, &m_main, gOpeners.SetNewAlert);
+    menus.PlugOpener(u"mnuSelectedToRolodex"_s, &m_main, gOpeners.SelectedToRolodex);
+    menus.PlugOpener(u"mnuCreateWord"_s, &m_main, gOpeners.WordFileOfSelected);
+    menus.PlugOpener(u"mnuExportSelectedContacts"_s, &m_main, gOpeners.ExportSelected);
+    menus.PlugOpener(u"mnuMaintenanceImport"_s, &m_main, gOpeners.Import);
+    menus.PlugOpener(u"mnuBackup"_s, &m_main, gOpeners.Backup);
+    menus.PlugOpener(u"mnuRestore"_s, &m_main, gOpeners.Restore);
+    menus.PlugOpener(u"mnuContact"_s, &m_main, gOpeners.Feedback);
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "ui/frame/frmMain.h"
+
+class CategoryTree;
+
+/// The main window with the features plugged in:
+///
+///   CategoryTree  -> first tab, mnuCategory
+///   frmList, frmContact, frmNotes  -> openers
+///
+/// What is not plugged in stands disabled in the menus.
+class Composition
+{
+public:
+    Composition();
+    ~Composition();
+
+    [[nodiscard]] frmMain& Main() { return m_main; }
+    [[nodiscard]] CategoryTree& Tree() { return *m_tree; }
+
+private:
+    void PlugOpeners();
+    void PlugSelectedMenu();
+
+    frmMain m_main;
+    CategoryTree* m_tree;
+};

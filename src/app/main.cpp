@@ -1,0 +1,32 @@
+#include "app/frmSplash.h"
+#include "model/Main.h"
+#include "ui/widgets/Pictures.h"
+#include "ui/widgets/Theme.h"
+#include "ui/widgets/UserWindows.h"
+
+#include <QApplication>
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(u"orvantine"_s);
+    QApplication::setApplicationDisplayName(QString());
+    QApplication::setDesktopFileName(u"orvantine"_s);
+    QApplication::setWindowIcon(Pictures::Icon(u"orvantine"_s));
+    Theme::Apply(application, Theme::SystemScheme());
+
+    gAppPath = QApplication::applicationDirPath();
+    // Temporary files with people's data lie with the data, wherever the program was started from.
+    QDir::setCurrent(AppFile(u"\\Data"_s));
+
+    UserWindows user;
+    User::Install(&user);
+    frmSplash splash(user);
+    splash.Show();
+    const int result = QApplication::exec();
+    User::Install(nullptr);
+    return result;
+}

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "model/faces.h"
+#include "ui/widgets/Form.h"
+
+class Category;
+class Grid;
+class QAction;
+class QMenu;
+
+/// The list of the contacts of one subcategory. It stands beside the main window, and is brought up to date by explicit calls.
+class frmList : public Form, public ContactListFace
+{
+    Q_OBJECT
+
+public:
+    frmList();
+    ~frmList() override;
+
+    // ContactListFace
+    [[nodiscard]] int Rows() const override;
+    [[nodiscard]] int SelectedRow() const override;
+    [[nodiscard]] std::vector<Long> Highlighted() const override;
+    void AddRow() override;
+    void RemoveLastRow() override;
+    void TakeNewRowAway() override;
+    void SelectLastRow() override;
+    void SelectContact(Long contactID) override;
+    void RemoveContacts(const std::vector<Long>& contactIDs) override;
+    void UnSelectAll() override;
+    void UpdateContactGridCols() override;
+    void SetSelectedRowData(Long contactID) override;
+    void ShowPropertyCount(Long contactID, int count) override;
+    void SetAlertIcon(int row) override;
+    void ShowChecked(Long contactID, bool checked) override;
+    void FillContactList() override;
+    void UnloadList() override;
+
+protected:
+    void Form_Activate() override;
+    void Form_Unload(bool& cancel) override;
+    void EscapePressed() override;
+
+private:
+    // frmList.cpp: the window and its rows
+    void Form_Load();
+    void LoadContactColumns();
+    void ShowCaption();
+    void AddContact(const std::shared_ptr<Contact>& contact);
+    void WriteRow(int row);
+    void UpdateContactPropDisplay(int count, int row);
+    void EnableProperties();
+
+    // frmListEvents.cpp: keys, mouse and menus
+    void BuildMenu();
+    QAction* AddEntry(QMenu* menu, const char* name, const QString& caption, void (frmList::*click)());
+    void ConnectGrid();
+    void GridList_SelectionChange();
+    void GridList_MouseDown();
+    void GridList_MouseUp(Qt::MouseButton button, QPoint position);
+    void GridList_DblClick(int row, int column);
+    void GridList_KeyDown(int code);
+    void PopUpMenu(QPoint position);
+    void mnuContacts_Click();
+    void ShowMenuForOne();
+    void ShowMenuForMany(qsizetype count);
+    void ShowPropertyCaption();
+    [[nodiscard]] QAction& Entry(const char* name) const;
+    void SelectHilited(bool select);
+
+    void mnuNew_Click();
+    void mnuModify_Click();
+    void mnuSelect_Click();
+    void mnuUnselect_Click();
+    void mnuDelete_Click();
+    void mnuMove_Click();
+    void mnuManageAlerts_Click();
+    void mnuNewAlert_Click();
+    void mnuWord_Click();
+    void mnuNotes_Click();
+    void mnuProperties_Click();
+    void mnuNewProperty_Click();
+    void mnuClose_Click();
+
+    // frmListMove.cpp: contacts to another subcategory
+    void ContactMove();
+    void MoveContacts(Long categoryID, const Category& target);
+
+    Face<ContactListFace>::Registration m_face{*this};
+    Grid* m_grid;
+    QMenu* m_contactsMenu = nullptr;
+    QMenu* m_propertyMenu = nullptr;
+};
+
+/// Counts the highlighted rows of the contact list, and rebuilds gHilited and gHilitedList from them.
+qsizetype HilitedContacts();
+
+/// Shows the contact list beside the main window, loading it where it is not.
+void ShowContactList(QWidget* owner);
