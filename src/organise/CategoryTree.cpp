@@ -1,5 +1,6 @@
 #include "organise/CategoryTree.h"
 
+#include "core/adodb/Connection.h"
 #include "core/Convert.h"
 #include "core/FieldRules.h"
 #include "core/Trap.h"

@@ -24,9 +24,9 @@ enum class SortType
 /// One column as it is declared.
 struct GridColumn
 {
-    QString Key;
-    QString Header;
-    QString HeaderIcon; ///< name of a picture shown in place of the header text
+    QString Key{};
+    QString Header{};
+    QString HeaderIcon{}; ///< name of a picture shown in place of the header text
     int Width = 100;    ///< pixels
     Qt::Alignment Alignment = Qt::AlignLeft | Qt::AlignVCenter;
     bool Visible = true;
