@@ -157,7 +157,9 @@ void Engine::Configure()
     (void)Pragma("PRAGMA cipher_compatibility = 3");
     sqlite3_busy_timeout(m_database, busyMilliseconds);
     try {
-        (void)Pragma("SELECT count(*) FROM sqlite_master");
+        // An empty file is a valid database of the engine, but not ours: it was cut off.
+        if (Pragma("SELECT count(*) FROM sqlite_master WHERE name = 'Contacts'") == "0"_L1)
+            Raise(ErrorNumber::EngineFailure, u"The database has lost its tables."_s);
     } catch (const RunTimeError&) {
         if ((sqlite3_errcode(m_database) & 0xFF) == SQLITE_NOTADB)
             Raise(ErrorNumber::EnginePassword, u"Not a valid password."_s);

@@ -1,0 +1,116 @@
+#include "core/adodb/Dialect.h"
+
+#include "ErrorOf.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class tst_Dialect : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void StatementsMeanWhatTheySay_data();
+    void StatementsMeanWhatTheySay();
+    void FaultyStatementsAreRefused_data();
+    void FaultyStatementsAreRefused();
+    void ListsAndLongStatementsStandAsTheyAre();
+    void OnlyAWholeTableCanBeChangedThroughItsRows_data();
+    void OnlyAWholeTableCanBeChangedThroughItsRows();
+};
+
+void tst_Dialect::StatementsMeanWhatTheySay_data()
+{
+    QTest::addColumn<QString>("statement");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QStringList>("literals");
+
+    QTest::newRow("literals are lifted") << u"Select ID from Contacts Where SubCategoryID=7 and FirstName='Ann'"_s
+                                         << u"Select ID from Contacts Where SubCategoryID = ? and FirstName = ?"_s
+                                         << QStringList{u"7"_s, u"Ann"_s};
+    QTest::newRow("two apostrophes are one") << u"Update Categories set Description='O''Hara''s' Where ID=1"_s
+                                             << u"Update Categories set Description = ? Where ID = ?"_s
+                                             << QStringList{u"O'Hara's"_s, u"1"_s};
+    QTest::newRow("quotes delimit text") << u"Select ID from T Where A=\"it's\""_s << u"Select ID from T Where A = ?"_s
+                                         << QStringList{u"it's"_s};
+    QTest::newRow("signs inside a literal are text")
+        << u"Insert into T (A) Values ('-- /* ; [x] in ()')"_s << u"Insert into T ( A ) Values ( ? )"_s
+        << QStringList{u"-- /* ; [x] in ()"_s};
+    QTest::newRow("delete with a star") << u"Delete * from Alerts"_s << u"Delete from Alerts"_s << QStringList{};
+    QTest::newRow("right join") << u"SELECT City FROM [PropDetail] RIGHT JOIN [Contacts] ON PropDetail.ContactID = "
+                                   "Contacts.ID Where Contacts.ID in (1,2) "_s
+                                << u"SELECT City FROM [Contacts] LEFT JOIN [PropDetail] ON PropDetail . ContactID = "
+                                   "Contacts . ID Where Contacts . ID in ( 1 , 2 )"_s
+                                << QStringList{};
+    QTest::newRow("numbers of every form") << u"Update T set A=-1.5,B=1E+07,C=.5"_s << u"Update T set A = - ? , B = ? , C = ?"_s
+                                           << QStringList{u"1.5"_s, u"10000000"_s, u"0.5"_s};
+}
+
+void tst_Dialect::StatementsMeanWhatTheySay()
+{
+    QFETCH(QString, statement);
+    QFETCH(QStringList, literals);
+    const TranslatedStatement translated = Translate(statement);
+    QTEST(translated.Text, "text");
+    QStringList lifted;
+    for (const QVariant& literal : translated.Literals)
+        lifted << (literal.typeId() == QMetaType::Double ? QString::number(literal.toDouble(), 'g', 15) : literal.toString());
+    QCOMPARE(lifted, literals);
+}
+
+void tst_Dialect::FaultyStatementsAreRefused_data()
+{
+    QTest::addColumn<QString>("statement");
+    QTest::newRow("a comment would hide the Where") << u"Update Contacts set MI=''--' Where ID=5"_s;
+    QTest::newRow("a block comment") << u"Update Contacts set MI='' /* Where ID=5"_s;
+    QTest::newRow("a second statement") << u"Delete from Alerts; Delete from Contacts"_s;
+    QTest::newRow("an end mark") << u"Delete from Alerts;"_s;
+    QTest::newRow("an open literal") << u"Update Contacts set MI='' Where ID=5 and FirstName='x"_s;
+    QTest::newRow("an open bracket") << u"Select * from [Contacts"_s;
+    QTest::newRow("an empty list") << u"Delete from Contacts Where ID in ()"_s;
+    QTest::newRow("a second row") << u"Insert into T (A,B) Values (1,'a'),(2,'b')"_s;
+    QTest::newRow("a name that begins with a digit") << u"Update T set A=12abc"_s;
+    QTest::newRow("a placeholder of the engine") << u"Update T set A=?"_s;
+    QTest::newRow("a NUL outside of a literal") << u"Delete from T"_s + QChar(u'\0') + u"Where ID=1"_s;
+}
+
+void tst_Dialect::FaultyStatementsAreRefused()
+{
+    QFETCH(QString, statement);
+    QCOMPARE(ErrorOf([&] { (void)Translate(statement); }), ErrorNumber::EngineSyntax);
+}
+
+void tst_Dialect::ListsAndLongStatementsStandAsTheyAre()
+{
+    const TranslatedStatement list = Translate(u"Delete from Contacts Where ID in (1,2) and MI='x'"_s);
+    QCOMPARE(list.Text, u"Delete from Contacts Where ID in ( 1 , 2 ) and MI = ?"_s);
+    QVERIFY(!list.Reusable);
+
+    QStringList values;
+    for (int i = 0; i < 65; ++i)
+        values << u"'it''s'"_s;
+    const TranslatedStatement longOne = Translate(u"Insert into T Values ("_s + values.join(u',') + u")"_s);
+    QVERIFY(longOne.Literals.empty());
+    QVERIFY(!longOne.Reusable);
+    QVERIFY(longOne.Text.contains(u"'it''s' , 'it''s'"_s));
+}
+
+void tst_Dialect::OnlyAWholeTableCanBeChangedThroughItsRows_data()
+{
+    QTest::addColumn<QString>("statement");
+    QTest::addColumn<QString>("table");
+    QTest::newRow("a table") << u"Select * from Settings"_s << u"Settings"_s;
+    QTest::newRow("some of its rows") << u"Select * from [PropDetail] where ID=3"_s << u"PropDetail"_s;
+    QTest::newRow("some columns") << u"Select ID from Contacts"_s << QString();
+    QTest::newRow("a join") << u"Select * from A, B"_s << QString();
+}
+
+void tst_Dialect::OnlyAWholeTableCanBeChangedThroughItsRows()
+{
+    QFETCH(QString, statement);
+    QTEST(Translate(statement).UpdatableTable, "table");
+}
+
+QTEST_APPLESS_MAIN(tst_Dialect)
+#include "tst_Dialect.moc"
