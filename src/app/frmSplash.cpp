@@ -74,7 +74,7 @@ void frmSplash::Start()
     CenterForm(*this);
     LoadCategories();
     m_program = std::make_unique<Composition>();
-    m_user.SetStatus([this](const QString* message) { m_program->Main().ShoWait(message); });
+    m_user.SetStatusBar([this](const std::optional<QString>& message) { m_program->Main().ShoWait(message); });
     m_program->Tree().FillTree();
     LoadContacts([this](int percent) { ShowProgress(percent); });
     if (auto* panels = Face<AlertPanelsFace>::Get()) {

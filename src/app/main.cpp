@@ -16,7 +16,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationDisplayName(QString());
     QApplication::setDesktopFileName(u"orvantine"_s);
     QApplication::setWindowIcon(Pictures::Icon(u"orvantine"_s));
-    Theme::Apply(application, Theme::SystemScheme());
+    Theme::Apply(application);
 
     gAppPath = QApplication::applicationDirPath();
     // Temporary files with people's data lie with the data, wherever the program was started from.

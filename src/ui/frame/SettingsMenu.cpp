@@ -60,8 +60,8 @@ void SettingsMenu::PlugPictures()
 void SettingsMenu::mnuChgImgC_Click()
 {
     Trap(u"frmMain mnuChgImgC_Click Error #"_s, Icon::Critical, [this] {
-        CommonDialog dialog(&m_window);
-        dialog.ShowOpen();
+        CommonDialog dialog;
+        dialog.ShowOpen(&m_window);
         if (!dialog.FileName.isEmpty() && dialog.FileName != gSettings.Picture)
             SetContactListPicture(dialog.FileName);
     });

@@ -99,9 +99,9 @@ void frmMain::SetPage(Tab tab, QWidget* page)
     m_tabs->setCurrentIndex(m_currentTab);
 }
 
-void frmMain::ShoWait(const QString* message)
+void frmMain::ShoWait(const std::optional<QString>& message)
 {
-    if (message != nullptr)
+    if (message)
         SetPanel(1, *message);
     ShowSelectedCount();
     SetPanel(2, gContacts.IsEmpty() ? u"No contacts"_s : u"Total contacts: "_s + CStr(qint64{gContacts.Count()}));

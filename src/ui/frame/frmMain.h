@@ -4,6 +4,7 @@
 #include "ui/widgets/Form.h"
 
 #include <memory>
+#include <optional>
 
 class ClockPanel;
 class Menus;
@@ -43,7 +44,7 @@ public:
     void SetPage(Tab tab, QWidget* page);
 
     /// The counts of the status bar, and the message in panel 1 where there is one.
-    void ShoWait(const QString* message);
+    void ShoWait(const std::optional<QString>& message);
 
     // MainFace
     void SetCaption(const QString& caption) override;
