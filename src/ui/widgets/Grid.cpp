@@ -1,0 +1,724 @@
+#include "ui/widgets/Grid.h"
+
+#include "core/Dates.h"
+#include "core/RunTimeError.h"
+#include "ui/widgets/GridDelegate.h"
+#include "ui/widgets/GridFit.h"
+#include "ui/widgets/GridModel.h"
+#include "ui/widgets/GridSelection.h"
+#include "ui/widgets/GridSort.h"
+#include "ui/widgets/KeyCodes.h"
+
+#include <algorithm>
+#include <numeric>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMetaMethod>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <utility>
+
+namespace {
+
+constexpr int CellMargin = 12;
+constexpr int HeaderMargin = 16;
+constexpr int BackgroundWash = 205; // of 255: how much of the palette's base lies over the picture
+
+} // namespace
+
+/// For its lifetime, moves and highlights are the code's own and raise no SelectionChange.
+class Grid::ByCode
+{
+public:
+    explicit ByCode(Grid& grid) : m_grid(grid) { ++m_grid.m_codeActs; }
+    ~ByCode() { --m_grid.m_codeActs; }
+    ByCode(const ByCode&) = delete;
+    ByCode& operator=(const ByCode&) = delete;
+
+private:
+    Grid& m_grid;
+};
+
+/// Runs a handler of the person's key or mouse, then raises SelectionChange if it moved or highlighted anything. False
+/// when the grid is gone afterwards.
+template <typename Handler>
+bool Grid::ByPerson(Handler&& handler)
+{
+    const QPointer<Grid> alive(this);
+    ++m_personActs;
+    handler();
+    if (alive.isNull())
+        return false;
+    if (--m_personActs == 0 && std::exchange(m_personChanged, false))
+        Q_EMIT SelectionChange();
+    return !alive.isNull();
+}
+
+Grid::Grid(QWidget* parent)
+    : QTableView(parent), m_model(new GridModel(this)), m_selection(nullptr), m_fit(std::make_unique<GridFit>(*m_model))
+{
+    setModel(m_model);
+    delete selectionModel();
+    m_selection = new GridSelection(m_model, this);
+    setSelectionModel(m_selection);
+    setItemDelegate(new GridDelegate(this));
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setTabKeyNavigation(false);
+    setCornerButtonEnabled(false);
+    setShowGrid(false);
+    setWordWrap(false);
+    setIconSize(QSize(16, 16));
+    viewport()->setMouseTracking(true);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(true);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
+            [this](int section) { Q_EMIT ColumnClick(section + 1); });
+    m_fit->SetFont(font());
+    FitRowHeight();
+}
+
+Grid::~Grid() = default;
+
+// Columns.
+
+int Grid::AddColumn(const GridColumn& column)
+{
+    m_model->AddColumn(column);
+    const int section = Columns() - 1;
+    setColumnWidth(section, column.Width);
+    setColumnHidden(section, !column.Visible);
+    m_sortOrders.push_back(0);
+    return Columns();
+}
+
+int Grid::Columns() const
+{
+    return m_model->columnCount();
+}
+
+int Grid::ColumnIndex(QStringView key) const
+{
+    const std::vector<GridColumn>& columns = m_model->ColumnList();
+    const auto found =
+        std::find_if(columns.begin(), columns.end(), [key](const GridColumn& column) { return column.Key == key; });
+    return found == columns.end() ? 0 : static_cast<int>(found - columns.begin()) + 1;
+}
+
+const GridColumn& Grid::Column(int column) const
+{
+    if (column < 1 || column > Columns())
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+    return m_model->ColumnAt(column - 1);
+}
+
+void Grid::AutoWidthColumn(int column)
+{
+    const GridColumn& fitted = Column(column);
+    if (isColumnHidden(column - 1))
+        return;
+    const int header = fitted.HeaderIcon.isEmpty() ? m_fit->TextWidth(fitted.Header) : iconSize().width();
+    const int width = std::max(m_fit->Widest(column - 1) + CellMargin, header + HeaderMargin);
+    if (width != columnWidth(column - 1))
+        setColumnWidth(column - 1, width);
+}
+
+void Grid::SetColumnVisible(int column, bool visible)
+{
+    static_cast<void>(Column(column));
+    setColumnHidden(column - 1, !visible);
+}
+
+// Rows.
+
+void Grid::Clear()
+{
+    const ByCode byCode(*this);
+    m_lateHighlight = false;
+    m_model->Clear();
+    m_fit->Clear();
+}
+
+void Grid::ClearWithColumns()
+{
+    const ByCode byCode(*this);
+    m_lateHighlight = false;
+    m_model->ClearWithColumns();
+    m_fit->Clear();
+    m_sortOrders.clear();
+}
+
+int Grid::Rows() const
+{
+    return m_model->Rows();
+}
+
+int Grid::AddRow(Long itemData, int before)
+{
+    const ByCode byCode(*this);
+    if (before != 0)
+        CheckRow(before);
+    const int row = before == 0 ? Rows() : before - 1;
+    m_model->InsertRow(row, itemData);
+    m_fit->RowInserted(row);
+    return row + 1;
+}
+
+void Grid::RemoveRow(int row)
+{
+    CheckRow(row);
+    const ByCode byCode(*this);
+    m_model->Publish();
+    int heir = 0;
+    const bool wasCurrent = row == SelectedRow();
+    if (wasCurrent)
+        heir = Neighbour(row, [row](int other) { return other == row; });
+    if (heir != 0)
+        m_selection->setCurrentIndex(m_model->index(heir - 1, currentIndex().column()), QItemSelectionModel::NoUpdate);
+    m_model->RemoveRows(row - 1, 1);
+    m_fit->RowsRemoved(row - 1, 1);
+    if (wasCurrent)
+        MoveTo(heir > row ? heir - 1 : heir, heir < row);
+}
+
+void Grid::RemoveRows(const std::vector<int>& rows)
+{
+    if (rows.empty())
+        return;
+    std::vector<bool> gone(static_cast<size_t>(Rows()) + 1, false);
+    for (const int row : rows) {
+        CheckRow(row);
+        gone[static_cast<size_t>(row)] = true;
+    }
+    const ByCode byCode(*this);
+    m_model->Publish();
+    const auto isGone = [&gone](int row) { return static_cast<bool>(gone[static_cast<size_t>(row)]); };
+    const int current = SelectedRow();
+    const bool wasCurrent = current != 0 && isGone(current);
+    const int heir = wasCurrent ? Neighbour(current, isGone) : 0;
+    if (heir != 0)
+        m_selection->setCurrentIndex(m_model->index(heir - 1, currentIndex().column()), QItemSelectionModel::NoUpdate);
+
+    std::vector<int> order(static_cast<size_t>(Rows()));
+    std::iota(order.begin(), order.end(), 0);
+    const auto firstGone =
+        std::stable_partition(order.begin(), order.end(), [&isGone](int row) { return !isGone(row + 1); });
+    const int kept = static_cast<int>(firstGone - order.begin());
+    m_model->Reorder(order);
+    m_fit->RowsReordered();
+    const int removed = Rows() - kept;
+    m_model->RemoveRows(kept, removed);
+    m_fit->RowsRemoved(kept, removed);
+    if (wasCurrent)
+        MoveTo(SelectedRow(), heir < current);
+}
+
+Long Grid::RowItemData(int row) const
+{
+    CheckRow(row);
+    return m_model->ItemData(row - 1);
+}
+
+void Grid::SetRowItemData(int row, Long itemData)
+{
+    CheckRow(row);
+    m_model->SetItemData(row - 1, itemData);
+}
+
+int Grid::FindRow(Long itemData) const
+{
+    return m_model->Find(itemData) + 1;
+}
+
+bool Grid::RowVisible(int row) const
+{
+    CheckRow(row);
+    return row > m_model->rowCount() || !isRowHidden(row - 1);
+}
+
+void Grid::SetRowVisible(int row, bool visible)
+{
+    CheckRow(row);
+    const ByCode byCode(*this);
+    m_model->Publish();
+    if (!visible && row == SelectedRow()) {
+        const int heir = Neighbour(row, [row](int other) { return other == row; });
+        SetRowSelected(row, false);
+        MoveTo(heir, false);
+    } else if (!visible) {
+        SetRowSelected(row, false);
+    }
+    setRowHidden(row - 1, !visible);
+}
+
+// Cells.
+
+QString Grid::CellText(int row, int column) const
+{
+    CheckCell(row, column);
+    return m_model->Text(row - 1, column - 1);
+}
+
+void Grid::SetCellText(int row, int column, const QString& text)
+{
+    CheckCell(row, column);
+    m_model->SetText(row - 1, column - 1, text);
+    m_fit->CellChanged(row - 1, column - 1);
+}
+
+void Grid::SetCellText(int row, QStringView key, const QString& text)
+{
+    SetCellText(row, ColumnIndex(key), text);
+}
+
+QString Grid::CellIcon(int row, int column) const
+{
+    CheckCell(row, column);
+    return m_model->Look(row - 1, column - 1).Icon;
+}
+
+void Grid::SetCellIcon(int row, int column, const QString& name)
+{
+    CheckCell(row, column);
+    CellLook look = m_model->Look(row - 1, column - 1);
+    look.Icon = name;
+    m_model->SetLook(row - 1, column - 1, look);
+    m_fit->CellChanged(row - 1, column - 1);
+}
+
+QColor Grid::CellColor(int row, int column) const
+{
+    CheckCell(row, column);
+    return m_model->Look(row - 1, column - 1).Color;
+}
+
+void Grid::SetCellColor(int row, int column, const QColor& color)
+{
+    CheckCell(row, column);
+    CellLook look = m_model->Look(row - 1, column - 1);
+    look.Color = color;
+    m_model->SetLook(row - 1, column - 1, look);
+}
+
+QColor Grid::CellBackColor(int row, int column) const
+{
+    CheckCell(row, column);
+    return m_model->Look(row - 1, column - 1).BackColor;
+}
+
+void Grid::SetCellBackColor(int row, int column, const QColor& color)
+{
+    CheckCell(row, column);
+    CellLook look = m_model->Look(row - 1, column - 1);
+    look.BackColor = color;
+    m_model->SetLook(row - 1, column - 1, look);
+}
+
+QFont Grid::CellFont(int row, int column) const
+{
+    CheckCell(row, column);
+    return m_model->Look(row - 1, column - 1).Font.value_or(font());
+}
+
+void Grid::SetCellFont(int row, int column, const QFont& font)
+{
+    CheckCell(row, column);
+    CellLook look = m_model->Look(row - 1, column - 1);
+    look.Font = font;
+    m_model->SetLook(row - 1, column - 1, look);
+    m_fit->CellChanged(row - 1, column - 1);
+}
+
+void Grid::ResetCellFont(int row, int column)
+{
+    CheckCell(row, column);
+    CellLook look = m_model->Look(row - 1, column - 1);
+    look.Font.reset();
+    m_model->SetLook(row - 1, column - 1, look);
+}
+
+// Selection.
+
+int Grid::SelectedRow() const
+{
+    return currentIndex().row() + 1;
+}
+
+void Grid::SetSelectedRow(int row)
+{
+    if (row == 0) {
+        const ByCode byCode(*this);
+        m_lateHighlight = false;
+        m_selection->clear();
+        return;
+    }
+    CheckRow(row);
+    if (Columns() > 0)
+        SelectCell(row, std::max(SelectedCol(), 1));
+}
+
+int Grid::SelectedCol() const
+{
+    return currentIndex().column() + 1;
+}
+
+void Grid::SetSelectedCol(int column)
+{
+    static_cast<void>(Column(column));
+    const ByCode byCode(*this);
+    if (SelectedRow() != 0)
+        m_selection->setCurrentIndex(Cell(SelectedRow(), column), QItemSelectionModel::NoUpdate);
+}
+
+void Grid::SelectCell(int row, int column)
+{
+    CheckCell(row, column);
+    const ByCode byCode(*this);
+    m_lateHighlight = false;
+    m_selection->setCurrentIndex(Cell(row, column), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+}
+
+bool Grid::CellSelected(int row, int column) const
+{
+    CheckCell(row, column);
+    if (m_selection->IsHighlighted(row - 1))
+        return true;
+    return row == SelectedRow() && !m_lateHighlight && SelectionCount() == 0;
+}
+
+void Grid::SetRowSelected(int row, bool selected)
+{
+    CheckRow(row);
+    if (Columns() == 0)
+        return;
+    const ByCode byCode(*this);
+    m_selection->select(Cell(row, 1), (selected ? QItemSelectionModel::Select : QItemSelectionModel::Deselect) |
+                                          QItemSelectionModel::Rows);
+}
+
+void Grid::ClearHighlight()
+{
+    const ByCode byCode(*this);
+    m_lateHighlight = false;
+    m_selection->clearSelection();
+}
+
+int Grid::SelectionCount() const
+{
+    return m_selection->HighlightedCount();
+}
+
+std::vector<int> Grid::HighlightedRows() const
+{
+    std::vector<int> rows;
+    for (int row = 1; row <= Rows(); ++row)
+        if (m_selection->IsHighlighted(row - 1))
+            rows.push_back(row);
+    return rows;
+}
+
+void Grid::EnsureVisible(int row, int column)
+{
+    CheckCell(row, column);
+    scrollTo(Cell(row, column));
+}
+
+void Grid::SetMultiSelect(bool on)
+{
+    setSelectionMode(on ? QAbstractItemView::ExtendedSelection : QAbstractItemView::SingleSelection);
+}
+
+// Sorting.
+
+void Grid::Sort(int column, SortType type, int direction)
+{
+    static_cast<void>(Column(column));
+    const ByCode byCode(*this);
+    std::vector<QString> cells;
+    cells.reserve(static_cast<size_t>(Rows()));
+    for (int row = 0; row < Rows(); ++row)
+        cells.push_back(m_model->Text(row, column - 1));
+    m_model->Reorder(SortedOrder(cells, type, direction));
+    m_fit->RowsReordered();
+}
+
+int Grid::SortOrder(int column) const
+{
+    static_cast<void>(Column(column));
+    return m_sortOrders[static_cast<size_t>(column) - 1];
+}
+
+void Grid::SetSortOrder(int column, int direction)
+{
+    static_cast<void>(Column(column));
+    m_sortOrders[static_cast<size_t>(column) - 1] = direction;
+}
+
+// Look.
+
+void Grid::SetRedraw(bool on)
+{
+    viewport()->setUpdatesEnabled(on);
+    m_model->Hold(!on);
+}
+
+void Grid::SetHeaderVisible(bool visible)
+{
+    horizontalHeader()->setVisible(visible);
+}
+
+void Grid::SetBackgroundPicture(const QString& path)
+{
+    m_background = path.isEmpty() ? QPixmap() : QPixmap(path);
+    m_backgroundScaled = {};
+    viewport()->update();
+}
+
+void Grid::PaintBackground()
+{
+    const qreal ratio = viewport()->devicePixelRatioF();
+    const QSize size = viewport()->size() * ratio;
+    if (m_backgroundScaled.size() != size) {
+        const QPixmap covering = m_background.scaled(size, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+        QRect middle(QPoint(), size);
+        middle.moveCenter(covering.rect().center());
+        m_backgroundScaled = covering.copy(middle);
+        m_backgroundScaled.setDevicePixelRatio(ratio);
+    }
+    QPainter painter(viewport());
+    painter.drawPixmap(0, 0, m_backgroundScaled);
+    QColor wash = palette().color(QPalette::Base);
+    wash.setAlpha(BackgroundWash);
+    painter.fillRect(viewport()->rect(), wash);
+}
+
+void Grid::paintEvent(QPaintEvent* event)
+{
+    if (!m_background.isNull())
+        PaintBackground();
+    QTableView::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::Active, QPalette::Highlight));
+    painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+}
+
+void Grid::scrollContentsBy(int dx, int dy)
+{
+    QTableView::scrollContentsBy(dx, dy);
+    // The picture and the focus frame stand still while the rows move over them.
+    viewport()->update();
+}
+
+void Grid::changeEvent(QEvent* event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        m_fit->SetFont(font());
+        FitRowHeight();
+    }
+}
+
+void Grid::FitRowHeight()
+{
+    verticalHeader()->setMinimumSectionSize(8);
+    verticalHeader()->setDefaultSectionSize(std::max(fontMetrics().height() + 6, iconSize().height() + 6));
+}
+
+// The person's keys and mouse.
+
+void Grid::focusInEvent(QFocusEvent* event)
+{
+    const bool hadCurrent = currentIndex().isValid();
+    const ByCode byCode(*this);
+    QTableView::focusInEvent(event);
+    // Coming into a list must not choose a row.
+    if (!hadCurrent && currentIndex().isValid())
+        m_selection->clearCurrentIndex();
+    viewport()->update();
+}
+
+void Grid::focusOutEvent(QFocusEvent* event)
+{
+    QTableView::focusOutEvent(event);
+    viewport()->update();
+}
+
+void Grid::keyPressEvent(QKeyEvent* event)
+{
+    const QPointer<Grid> alive(this);
+    const int ascii = KeyAscii(*event);
+    if (event->key() == Qt::Key_Up && event->modifiers() == Qt::AltModifier) {
+        if (SelectedCol() != 0)
+            Q_EMIT ColumnClick(SelectedCol());
+        return;
+    }
+    Q_EMIT KeyDown(KeyCode(*event));
+    if (!alive.isNull() && ascii != 0)
+        Q_EMIT KeyPress(ascii);
+    if (!alive.isNull())
+        ByPerson([this, event] { QTableView::keyPressEvent(event); });
+}
+
+void Grid::keyboardSearch(const QString& text)
+{
+    if (!isSignalConnected(QMetaMethod::fromSignal(&Grid::KeyPress)))
+        QTableView::keyboardSearch(text);
+}
+
+void Grid::mousePressEvent(QMouseEvent* event)
+{
+    const QModelIndex under = indexAt(event->position().toPoint());
+    const bool alive = ByPerson([this, event, &under] {
+        if (!under.isValid())
+            return;
+        m_lateHighlight = false;
+        if (event->button() == Qt::LeftButton)
+            QTableView::mousePressEvent(event);
+        else if (event->button() == Qt::RightButton && SelectionCount() < 2)
+            m_selection->setCurrentIndex(under, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    });
+    if (alive)
+        Q_EMIT MouseDown(event->button());
+}
+
+void Grid::mouseReleaseEvent(QMouseEvent* event)
+{
+    const Qt::MouseButton button = event->button();
+    const QPoint position = event->globalPosition().toPoint();
+    if (ByPerson([this, event] { QTableView::mouseReleaseEvent(event); }))
+        Q_EMIT MouseUp(button, position);
+}
+
+void Grid::mouseMoveEvent(QMouseEvent* event)
+{
+    if (ByPerson([this, event] { QTableView::mouseMoveEvent(event); }))
+        Q_EMIT MouseMove();
+}
+
+void Grid::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    const QModelIndex under = indexAt(event->position().toPoint());
+    const bool left = event->button() == Qt::LeftButton;
+    const int row = under.row() + 1;
+    const int column = under.column() + 1;
+    if (ByPerson([this, event] { QTableView::mouseDoubleClickEvent(event); }) && left && row > 0)
+        Q_EMIT DblClick(row, column);
+}
+
+void Grid::timerEvent(QTimerEvent* event)
+{
+    // A drag beyond the edge goes on scrolling and highlighting by a timer.
+    ByPerson([this, event] { QTableView::timerEvent(event); });
+}
+
+void Grid::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    m_personChanged |= m_personActs > 0 && m_codeActs == 0;
+    QTableView::currentChanged(current, previous);
+}
+
+void Grid::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+    m_personChanged |= m_personActs > 0 && m_codeActs == 0;
+    QTableView::selectionChanged(selected, deselected);
+}
+
+// Helpers.
+
+void Grid::CheckRow(int row) const
+{
+    if (row < 1 || row > Rows())
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+}
+
+void Grid::CheckCell(int row, int column) const
+{
+    if (row < 1 || row > Rows() || column < 1 || column > Columns())
+        throw RunTimeError(ErrorNumber::SubscriptOutOfRange);
+}
+
+QModelIndex Grid::Cell(int row, int column) const
+{
+    m_model->Publish();
+    return m_model->index(row - 1, column - 1);
+}
+
+template <typename Gone>
+int Grid::Neighbour(int row, Gone&& gone) const
+{
+    for (int below = row + 1; below <= Rows(); ++below)
+        if (!gone(below) && !isRowHidden(below - 1))
+            return below;
+    for (int above = row - 1; above >= 1; --above)
+        if (!gone(above) && !isRowHidden(above - 1))
+            return above;
+    return 0;
+}
+
+void Grid::MoveTo(int row, bool above)
+{
+    if (row == 0) {
+        m_selection->clearCurrentIndex();
+        return;
+    }
+    const QModelIndex cell = m_model->index(row - 1, std::max(currentIndex().column(), 0));
+    m_selection->setCurrentIndex(cell, QItemSelectionModel::NoUpdate);
+    if (!above) {
+        m_selection->select(cell, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+        return;
+    }
+    m_lateHighlight = true;
+    QMetaObject::invokeMethod(this, &Grid::HighlightLate, Qt::QueuedConnection);
+}
+
+void Grid::HighlightLate()
+{
+    if (!std::exchange(m_lateHighlight, false) || !currentIndex().isValid())
+        return;
+    const ByCode byCode(*this);
+    m_selection->select(currentIndex(), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+}
+
+// The procedures that all lists share.
+
+int AddGridRow(Grid& grid, const QString& text, Long itemData)
+{
+    const int row = grid.AddRow(itemData);
+    grid.SetCellText(row, 1, text);
+    return row;
+}
+
+bool AnySelectedCol(int row, const Grid& grid)
+{
+    for (int column = 1; column <= grid.Columns(); ++column)
+        if (grid.CellSelected(row, column))
+            return true;
+    return false;
+}
+
+void SortGrid(Grid& grid, int column)
+{
+    SortType type = grid.Column(column).Sort;
+    int row = 1;
+    while (row < grid.Rows() && grid.CellText(row, column).isEmpty())
+        ++row;
+    if (row <= grid.Rows() && IsDate(grid.CellText(row, column)))
+        type = SortType::Date;
+    const int direction = grid.SortOrder(1) == 2 ? 1 : 2;
+    grid.SetSortOrder(1, direction);
+    grid.Sort(column, type, direction);
+    for (row = 1; row <= grid.Rows(); ++row) {
+        if (!grid.RowVisible(row))
+            continue;
+        grid.SetSelectedRow(row);
+        break;
+    }
+}
