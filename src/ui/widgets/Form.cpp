@@ -9,10 +9,10 @@
 #include <QLayout>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 
-Form::Form(const QString& name, Qt::WindowFlags flags)
-    : QWidget(nullptr, flags)
+Form::Form(const QString& name, Qt::WindowFlags flags) : QWidget(nullptr, flags)
 {
     setObjectName(name);
     Forms::Add(this);
@@ -101,8 +101,12 @@ bool Form::KeyPreview(QKeyEvent*)
 
 bool Form::event(QEvent* event)
 {
-    if (event->type() == QEvent::WindowActivate && isVisible())
-        Forms::Enter(this);
+    // Asked again when the events have settled: of two windows shown at once the first is active for a moment only.
+    if (event->type() == QEvent::WindowActivate)
+        QTimer::singleShot(0, this, [this] {
+            if (isVisible() && isActiveWindow())
+                Forms::Enter(this);
+        });
     return QWidget::event(event);
 }
 

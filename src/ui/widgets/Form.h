@@ -31,16 +31,16 @@ public:
     void Show(QWidget* owner = nullptr);
     /// Shows the window and waits until it is unloaded or hidden; no other window can be worked meanwhile.
     void ShowModal(QWidget* owner = nullptr);
-    /// Asks Form_QueryUnload and Form_Unload, then takes the window away; false when one of them cancelled. Does nothing while
-    /// the window is already on its way out.
+    /// Asks Form_QueryUnload and Form_Unload, then takes the window away; false when one of them cancelled. Does
+    /// nothing while the window is already on its way out.
     bool Unload(UnloadMode mode = UnloadMode::Code);
     [[nodiscard]] bool IsUnloaded() const { return m_unloaded; }
     /// Whether a modeless window deletes itself after Unload; it does at first.
     void SetDeleteOnUnload(bool deletes) { m_deleteOnUnload = deletes; }
 
 protected:
-    /// Runs, queued, after the first show and whenever the focus comes back from another window of the program; not when it comes
-    /// from another program or a message box. When a modal window goes, the one beneath gets it.
+    /// Runs, queued, after the first show and whenever the focus comes back from another window of the program; not
+    /// when it comes from another program or a message box. When a modal window goes, the one beneath gets it.
     virtual void Form_Activate() {}
     /// May set `cancel` to keep the window.
     virtual void Form_QueryUnload(bool& cancel, UnloadMode mode);

@@ -12,7 +12,8 @@ public:
     [[nodiscard]] static QStringList Loaded();
     /// The loaded window of this exact name; null where there is none.
     [[nodiscard]] static Form* Find(const QString& name);
-    /// The window that the person works in, or worked in before another program or a message box came; null when none is shown.
+    /// The window that the person works in, or worked in before another program or a message box came; null when none
+    /// is shown.
     [[nodiscard]] static Form* Active();
 
 private:

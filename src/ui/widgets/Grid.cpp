@@ -9,14 +9,14 @@
 #include "ui/widgets/GridSort.h"
 #include "ui/widgets/KeyCodes.h"
 
+#include <algorithm>
+#include <numeric>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
-#include <algorithm>
-#include <numeric>
 #include <utility>
 
 namespace {
@@ -31,11 +31,7 @@ constexpr int BackgroundWash = 205; // of 255: how much of the palette's base li
 class Grid::ByCode
 {
 public:
-    explicit ByCode(Grid& grid)
-        : m_grid(grid)
-    {
-        ++m_grid.m_codeActs;
-    }
+    explicit ByCode(Grid& grid) : m_grid(grid) { ++m_grid.m_codeActs; }
     ~ByCode() { --m_grid.m_codeActs; }
     ByCode(const ByCode&) = delete;
     ByCode& operator=(const ByCode&) = delete;
@@ -44,8 +40,8 @@ private:
     Grid& m_grid;
 };
 
-/// Runs a handler of the person's key or mouse, then raises SelectionChange if it moved or highlighted anything. False when the
-/// grid is gone afterwards.
+/// Runs a handler of the person's key or mouse, then raises SelectionChange if it moved or highlighted anything. False
+/// when the grid is gone afterwards.
 template <typename Handler>
 bool Grid::ByPerson(Handler&& handler)
 {
@@ -60,10 +56,7 @@ bool Grid::ByPerson(Handler&& handler)
 }
 
 Grid::Grid(QWidget* parent)
-    : QTableView(parent)
-    , m_model(new GridModel(this))
-    , m_selection(nullptr)
-    , m_fit(std::make_unique<GridFit>(*m_model))
+    : QTableView(parent), m_model(new GridModel(this)), m_selection(nullptr), m_fit(std::make_unique<GridFit>(*m_model))
 {
     setModel(m_model);
     delete selectionModel();
@@ -85,7 +78,8 @@ Grid::Grid(QWidget* parent)
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(true);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int section) { Q_EMIT ColumnClick(section + 1); });
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
+            [this](int section) { Q_EMIT ColumnClick(section + 1); });
     m_fit->SetFont(font());
     FitRowHeight();
 }
@@ -213,7 +207,8 @@ void Grid::RemoveRows(const std::vector<int>& rows)
 
     std::vector<int> order(static_cast<size_t>(Rows()));
     std::iota(order.begin(), order.end(), 0);
-    const auto firstGone = std::stable_partition(order.begin(), order.end(), [&isGone](int row) { return !isGone(row + 1); });
+    const auto firstGone =
+        std::stable_partition(order.begin(), order.end(), [&isGone](int row) { return !isGone(row + 1); });
     const int kept = static_cast<int>(firstGone - order.begin());
     m_model->Reorder(order);
     m_fit->RowsReordered();

@@ -2,11 +2,11 @@
 
 #include "core/Types.h"
 
+#include <memory>
 #include <QColor>
 #include <QPixmap>
 #include <QString>
 #include <QTableView>
-#include <memory>
 #include <vector>
 
 class GridFit;
@@ -16,18 +16,18 @@ class GridSelection;
 /// How a column's cells compare when it is sorted.
 enum class SortType
 {
-    Text,   ///< without case
-    Number, ///< by value, cells that are no number lowest
+    Text,      ///< without case
+    Number,    ///< by value, cells that are no number lowest
     Date = 200 ///< by the date's value, cells that are no date lowest
 };
 
 /// One column as it is declared.
 struct GridColumn
 {
-    QString Key{};
-    QString Header{};
-    QString HeaderIcon{}; ///< name of a picture shown in place of the header text
-    int Width = 100;    ///< pixels
+    QString Key = {};
+    QString Header = {};
+    QString HeaderIcon = {}; ///< name of a picture shown in place of the header text
+    int Width = 100;         ///< pixels
     Qt::Alignment Alignment = Qt::AlignLeft | Qt::AlignVCenter;
     bool Visible = true;
     SortType Sort = SortType::Text;
@@ -61,9 +61,10 @@ public:
     [[nodiscard]] int Rows() const;
     /// Adds a row at the end, or before row `before`; returns its number.
     int AddRow(Long itemData = 0, int before = 0);
-    /// Takes a row away. When it was the current row, the next row (else the last) becomes current and highlighted; the highlight
-    /// of a last row comes with the next turn of the event loop, so that a walk from the last row to the first that removes what
-    /// is highlighted never eats its way up. Costs a move of 8 bytes for each row behind it (100,000 rows: some 50 µs).
+    /// Takes a row away. When it was the current row, the next row (else the last) becomes current and highlighted; the
+    /// highlight of a last row comes with the next turn of the event loop, so that a walk from the last row to the
+    /// first that removes what is highlighted never eats its way up. Costs a move of 8 bytes for each row behind it
+    /// (100,000 rows: some 50 µs).
     void RemoveRow(int row);
     /// Takes many rows away at once, in one pass over the grid however many they are.
     void RemoveRows(const std::vector<int>& rows);
@@ -97,8 +98,8 @@ public:
     void SetSelectedCol(int column);
     /// Makes (row, column) the current cell and highlights only its row.
     void SelectCell(int row, int column);
-    /// Whether the cell's row is highlighted. With nothing highlighted at all the current row counts, which is meant: a key
-    /// pressed then works on it.
+    /// Whether the cell's row is highlighted. With nothing highlighted at all the current row counts, which is meant: a
+    /// key pressed then works on it.
     [[nodiscard]] bool CellSelected(int row, int column) const;
     /// Highlights a row, or takes its highlight away; the current cell stays.
     void SetRowSelected(int row, bool selected);
@@ -112,7 +113,8 @@ public:
     void SetMultiSelect(bool on);
 
     // Sorting.
-    /// Sorts stably by a column; direction 1 is ascending, 2 descending. The current row and the highlights follow their rows.
+    /// Sorts stably by a column; direction 1 is ascending, 2 descending. The current row and the highlights follow
+    /// their rows.
     void Sort(int column, SortType type, int direction);
     /// The direction that is kept on a column; 0 at first.
     [[nodiscard]] int SortOrder(int column) const;
@@ -132,9 +134,11 @@ Q_SIGNALS:
     void MouseDown(Qt::MouseButton button);
     void MouseUp(Qt::MouseButton button, QPoint globalPosition);
     void MouseMove();
-    /// A key that reaches the grid, before the grid's own use of it; `code` as KeyCode gives it: core/FieldRules.h for Delete, Enter, Esc.
+    /// A key that reaches the grid, before the grid's own use of it; `code` as KeyCode gives it: core/FieldRules.h for
+    /// Delete, Enter, Esc.
     void KeyDown(int code);
-    /// A key that types a character, or Backspace, Enter, Esc; after KeyDown. While somebody listens, typing does not search the list.
+    /// A key that types a character, or Backspace, Enter, Esc; after KeyDown. While somebody listens, typing does not
+    /// search the list.
     void KeyPress(int keyAscii);
 
 protected:
@@ -160,7 +164,8 @@ private:
     void CheckRow(int row) const;
     void CheckCell(int row, int column) const;
     [[nodiscard]] QModelIndex Cell(int row, int column) const;
-    /// The nearest row that can be current when `gone(row)` holds for the rows that cannot; below first, 0 where there is none.
+    /// The nearest row that can be current when `gone(row)` holds for the rows that cannot; below first, 0 where there
+    /// is none.
     template <typename Gone>
     [[nodiscard]] int Neighbour(int row, Gone&& gone) const;
     void MoveTo(int row, bool above);
@@ -184,7 +189,8 @@ private:
 int AddGridRow(Grid& grid, const QString& text, Long itemData = 0);
 /// Whether any cell of the row is highlighted.
 [[nodiscard]] bool AnySelectedCol(int row, const Grid& grid);
-/// The sort of a click on a column header: by date where the column's first filled cell is a date, otherwise by the column's
-/// declared type. The direction is kept on column 1 whatever column was clicked, which is meant: the first click on a fresh
-/// grid sorts with direction 2 and each later click on any column flips it. Row 1 becomes the selected row.
+/// The sort of a click on a column header: by date where the column's first filled cell is a date, otherwise by the
+/// column's declared type. The direction is kept on column 1 whatever column was clicked, which is meant: the first
+/// click on a fresh grid sorts with direction 2 and each later click on any column flips it. Row 1 becomes the selected
+/// row.
 void SortGrid(Grid& grid, int column);

@@ -2,9 +2,9 @@
 
 #include "ui/widgets/GridModel.h"
 
+#include <algorithm>
 #include <QFontMetrics>
 #include <QtMath>
-#include <algorithm>
 
 namespace {
 
@@ -12,8 +12,7 @@ constexpr int IconWidth = 20;
 
 } // namespace
 
-GridFit::GridFit(const GridModel& model)
-    : m_model(model)
+GridFit::GridFit(const GridModel& model) : m_model(model)
 {
     SetFont(m_font);
 }

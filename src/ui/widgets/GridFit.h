@@ -1,14 +1,14 @@
 #pragma once
 
-#include <QFont>
 #include <array>
+#include <QFont>
 #include <vector>
 
 class GridModel;
 
-/// How wide a grid's columns must be for their texts, in pixels: a running maximum for each column, which only a clear resets. A text is
-/// measured once, when its column is first fitted after it came, by adding the widths of its letters from a table; so
-/// fitting a column after each row of a long fill stays cheap.
+/// How wide a grid's columns must be for their texts, in pixels: a running maximum for each column, which only a clear
+/// resets. A text is measured once, when its column is first fitted after it came, by adding the widths of its letters
+/// from a table; so fitting a column after each row of a long fill stays cheap.
 class GridFit
 {
 public:

@@ -2,9 +2,9 @@
 
 #include "ui/widgets/Grid.h"
 
+#include <optional>
 #include <QAbstractTableModel>
 #include <QHash>
-#include <optional>
 #include <vector>
 
 /// What a cell shows beside its text. Few cells have one.
@@ -19,9 +19,9 @@ struct CellLook
 };
 
 /// The rows of a grid. Rows and columns count from 0 here, as Qt counts them.
-/// Texts lie in slots that never move; the order of the rows is a list of slot numbers. So a sort moves four bytes for a row, and
-/// the sparse looks, kept by slot, follow their rows without being touched.
-/// While held, changes are told to the views late and together: rows added at the end by Publish, texts by Hold(false).
+/// Texts lie in slots that never move; the order of the rows is a list of slot numbers. So a sort moves four bytes for
+/// a row, and the sparse looks, kept by slot, follow their rows without being touched. While held, changes are told to
+/// the views late and together: rows added at the end by Publish, texts by Hold(false).
 class GridModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -49,7 +49,8 @@ public:
     void ClearWithColumns();
     [[nodiscard]] Long ItemData(int row) const { return m_itemData[static_cast<size_t>(row)]; }
     void SetItemData(int row, Long itemData) { m_itemData[static_cast<size_t>(row)] = itemData; }
-    /// The first row with this item data, -1 where there is none. A walk over packed numbers: 100,000 rows take some 20 µs.
+    /// The first row with this item data, -1 where there is none. A walk over packed numbers: 100,000 rows take some 20
+    /// µs.
     [[nodiscard]] int Find(Long itemData) const;
     /// Puts the rows into a new order: row n is then what was row order[n].
     void Reorder(const std::vector<int>& order);

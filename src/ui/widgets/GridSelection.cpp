@@ -4,8 +4,7 @@
 #include <QTableView>
 
 GridSelection::GridSelection(QAbstractItemModel* model, QTableView* view)
-    : QItemSelectionModel(model, view)
-    , m_view(view)
+    : QItemSelectionModel(model, view), m_view(view)
 {
     connect(this, &QItemSelectionModel::selectionChanged, this, &GridSelection::Forget);
     connect(model, &QAbstractItemModel::rowsInserted, this, &GridSelection::Forget);
@@ -33,7 +32,8 @@ void GridSelection::select(const QItemSelection& selection, QItemSelectionModel:
             if (row <= range.bottom() && !m_view->isRowHidden(row))
                 continue;
             if (row > first)
-                shown.append(QItemSelectionRange(model()->index(first, range.left()), model()->index(row - 1, range.right())));
+                shown.append(
+                    QItemSelectionRange(model()->index(first, range.left()), model()->index(row - 1, range.right())));
             first = row + 1;
         }
     }

@@ -5,8 +5,8 @@
 
 class QTableView;
 
-/// The highlighted rows and the current cell of a grid. The one gate through which every highlight and every move passes,
-/// whether it comes of a key, the mouse or code: what would touch a hidden row is kept out here.
+/// The highlighted rows and the current cell of a grid. The one gate through which every highlight and every move
+/// passes, whether it comes of a key, the mouse or code: what would touch a hidden row is kept out here.
 class GridSelection : public QItemSelectionModel
 {
     Q_OBJECT

@@ -41,7 +41,8 @@ std::vector<int> SortedOrder(const std::vector<QString>& cells, SortType type, i
 {
     if (type == SortType::Text) {
         std::vector<QString> keys(cells.size());
-        std::transform(cells.begin(), cells.end(), keys.begin(), [](const QString& text) { return text.toCaseFolded(); });
+        std::transform(cells.begin(), cells.end(), keys.begin(),
+                       [](const QString& text) { return text.toCaseFolded(); });
         return OrderBy(keys, direction);
     }
     std::vector<double> keys(cells.size());

@@ -16,8 +16,7 @@ constexpr QSize PictureSize(28, 28);
 
 } // namespace
 
-HoverButton::HoverButton(QWidget* parent)
-    : QAbstractButton(parent)
+HoverButton::HoverButton(QWidget* parent) : QAbstractButton(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
@@ -61,11 +60,12 @@ QSize HoverButton::sizeHint() const
 {
     const QSize picture = m_picture.isEmpty() ? QSize(0, 0) : PictureSize;
     const QFontMetrics metrics(font());
-    const QSize caption = text().isEmpty() ? QSize(0, 0) : QSize(metrics.horizontalAdvance(text()) + 2, metrics.height());
+    const QSize caption =
+        text().isEmpty() ? QSize(0, 0) : QSize(metrics.horizontalAdvance(text()) + 2, metrics.height());
     const int gap = picture.isEmpty() || caption.isEmpty() ? 0 : Gap;
     const QSize inner = m_captionBeside
-        ? QSize(picture.width() + gap + caption.width(), qMax(picture.height(), caption.height()))
-        : QSize(qMax(picture.width(), caption.width()), picture.height() + gap + caption.height());
+                            ? QSize(picture.width() + gap + caption.width(), qMax(picture.height(), caption.height()))
+                            : QSize(qMax(picture.width(), caption.width()), picture.height() + gap + caption.height());
     return inner + QSize(2 * Padding, 2 * Padding);
 }
 

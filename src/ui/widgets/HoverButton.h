@@ -2,8 +2,9 @@
 
 #include <QAbstractButton>
 
-/// A flat picture button: plain, lit while the pointer is over it, low while it is pressed. The caption says the action in words.
-/// Tab reaches it, Space and Enter press it, and its focus shows. In a .ui file: a promoted widget named cmdButton_<index>.
+/// A flat picture button: plain, lit while the pointer is over it, low while it is pressed. The caption says the action
+/// in words. Tab reaches it, Space and Enter press it, and its focus shows. In a .ui file: a promoted widget named
+/// cmdButton_<index>.
 class HoverButton : public QAbstractButton
 {
     Q_OBJECT
@@ -24,7 +25,8 @@ public:
     void SetCaption(const QString& caption);
     [[nodiscard]] bool CaptionBeside() const { return m_captionBeside; }
     void SetCaptionBeside(bool beside);
-    /// Whether a press with the mouse moves the focus here, so that the field being left commits; it does at first. Tab always does.
+    /// Whether a press with the mouse moves the focus here, so that the field being left commits; it does at first. Tab
+    /// always does.
     [[nodiscard]] bool TakesFocus() const { return focusPolicy() == Qt::StrongFocus; }
     void SetTakesFocus(bool takes) { setFocusPolicy(takes ? Qt::StrongFocus : Qt::TabFocus); }
 

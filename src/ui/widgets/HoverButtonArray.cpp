@@ -8,8 +8,7 @@
 using namespace Qt::StringLiterals;
 
 HoverButtonArray::HoverButtonArray(QWidget& window, std::vector<HoverPicture> table, const QString& stem)
-    : QObject(&window)
-    , m_table(std::move(table))
+    : QObject(&window), m_table(std::move(table))
 {
     const QList<HoverButton*> found = window.findChildren<HoverButton*>();
     for (const HoverPicture& line : m_table) {
@@ -25,9 +24,9 @@ HoverButtonArray::HoverButtonArray(QWidget& window, std::vector<HoverPicture> ta
     LoadBitMaps();
 }
 
-HoverButtonArray::HoverButtonArray(QWidget& window, QBoxLayout& layout, std::vector<HoverPicture> table, const QString& stem)
-    : QObject(&window)
-    , m_table(std::move(table))
+HoverButtonArray::HoverButtonArray(QWidget& window, QBoxLayout& layout, std::vector<HoverPicture> table,
+                                   const QString& stem)
+    : QObject(&window), m_table(std::move(table))
 {
     for (const HoverPicture& line : m_table) {
         auto* button = new HoverButton(&window);

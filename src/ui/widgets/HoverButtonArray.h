@@ -18,14 +18,16 @@ struct HoverPicture
 };
 
 /// The picture buttons of a window, told apart by their index alone. At most one is lit.
-/// A window's .ui file holds HoverButtons named <stem>_<index> (the stem without case); the window's table says what they show.
+/// A window's .ui file holds HoverButtons named <stem>_<index> (the stem without case); the window's table says what
+/// they show.
 class HoverButtonArray : public QObject
 {
     Q_OBJECT
 
 public:
     /// Takes the buttons of the table from a window; a button that the window lacks is a warning.
-    HoverButtonArray(QWidget& window, std::vector<HoverPicture> table, const QString& stem = QStringLiteral("cmdButton"));
+    HoverButtonArray(QWidget& window, std::vector<HoverPicture> table,
+                     const QString& stem = QStringLiteral("cmdButton"));
     /// Makes the buttons of the table, in its order, in a layout of the window.
     HoverButtonArray(QWidget& window, QBoxLayout& layout, std::vector<HoverPicture> table,
                      const QString& stem = QStringLiteral("cmdButton"));

@@ -41,7 +41,8 @@ int KeyCode(const QKeyEvent& event)
         break;
     }
     const int key = event.key();
-    const bool same = key == Qt::Key_Space || (key >= Qt::Key_0 && key <= Qt::Key_9) || (key >= Qt::Key_A && key <= Qt::Key_Z);
+    const bool same =
+        key == Qt::Key_Space || (key >= Qt::Key_0 && key <= Qt::Key_9) || (key >= Qt::Key_A && key <= Qt::Key_Z);
     return same ? key : 0;
 }
 

@@ -2,12 +2,12 @@
 
 #include <QGuiApplication>
 
-/// Shows the normal pointer for the length of a scope, also under an hourglass: a window that waits for the person is no wait.
+/// Shows the normal pointer for the length of a scope, also under an hourglass: a window that waits for the person is
+/// no wait.
 class NormalCursor
 {
 public:
-    NormalCursor()
-        : m_covers(QGuiApplication::overrideCursor() != nullptr)
+    NormalCursor() : m_covers(QGuiApplication::overrideCursor() != nullptr)
     {
         if (m_covers)
             QGuiApplication::setOverrideCursor(Qt::ArrowCursor);

@@ -117,9 +117,7 @@ QPixmap Draw(const Drawing& drawing, QSize size, qreal ratio)
 class PictureEngine final : public QIconEngine
 {
 public:
-    explicit PictureEngine(QString name)
-        : m_name(std::move(name))
-    {}
+    explicit PictureEngine(QString name) : m_name(std::move(name)) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
     {

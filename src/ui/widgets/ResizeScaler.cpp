@@ -1,14 +1,13 @@
 #include "ui/widgets/ResizeScaler.h"
 
+#include <algorithm>
 #include <QComboBox>
 #include <QFontInfo>
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 ResizeScaler::ResizeScaler(QWidget& form, std::vector<const QWidget*> leftOut)
-    : m_form(form)
-    , m_leftOut(std::move(leftOut))
+    : m_form(form), m_leftOut(std::move(leftOut))
 {}
 
 void ResizeScaler::FormResized()

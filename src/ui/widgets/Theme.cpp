@@ -1,0 +1,119 @@
+#include "ui/widgets/Theme.h"
+
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QPainter>
+#include <QPalette>
+#include <QProxyStyle>
+#include <QStyleOption>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Fusion with our spacing, and with a focus that is never left to guessing.
+class ThemeStyle final : public QProxyStyle
+{
+public:
+    ThemeStyle() : QProxyStyle(u"Fusion"_s) {}
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
+    {
+        switch (metric) {
+        case PM_LayoutHorizontalSpacing:
+        case PM_LayoutVerticalSpacing:
+        case PM_LayoutLeftMargin:
+        case PM_LayoutTopMargin:
+        case PM_LayoutRightMargin:
+        case PM_LayoutBottomMargin:
+            return Theme::Spacing;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override
+    {
+        if (const auto* focus = qstyleoption_cast<const QStyleOptionFocusRect*>(option);
+            focus != nullptr && element == PE_FrameFocusRect) {
+            // Fusion hides the frame until a key was used.
+            QStyleOptionFocusRect always(*focus);
+            always.state |= State_KeyboardFocusChange;
+            QProxyStyle::drawPrimitive(element, &always, painter, widget);
+            return;
+        }
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override
+    {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        const bool frame = element == CE_ShapedFrame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
+        if (!frame || !widget->hasFocus())
+            return;
+        painter->setPen(option->palette.color(QPalette::Active, QPalette::Highlight));
+        painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    }
+};
+
+/// The colours of one scheme.
+struct Shades
+{
+    QColor Accent, OnAccent, Window, Base, Alternate, Text, Button, Dim, IdleHighlight, Tip;
+};
+
+const Shades& LightShades()
+{
+    static const Shades shades{0x2F6DB5, Qt::white, 0xF5F6F8, Qt::white, 0xF0F3F8,
+                               0x1E2430, 0xECEFF3,  0x6F7989, 0xC6D8EE,  0xFFFFFF};
+    return shades;
+}
+
+const Shades& DarkShades()
+{
+    static const Shades shades{0x6FA8E8, 0x10151C, 0x23272E, 0x1B1F25, 0x21262D,
+                               0xE6E9EF, 0x323842, 0x8B95A5, 0x38506D, 0x2D333C};
+    return shades;
+}
+
+QPalette PaletteOf(const Shades& shades)
+{
+    QPalette palette(shades.Button, shades.Window);
+    palette.setColor(QPalette::Base, shades.Base);
+    palette.setColor(QPalette::AlternateBase, shades.Alternate);
+    palette.setColor(QPalette::ToolTipBase, shades.Tip);
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+        palette.setColor(role, shades.Text);
+        palette.setColor(QPalette::Disabled, role, shades.Dim);
+    }
+    palette.setColor(QPalette::PlaceholderText, shades.Dim);
+    palette.setColor(QPalette::BrightText, Qt::white);
+    palette.setColor(QPalette::Link, shades.Accent);
+    palette.setColor(QPalette::LinkVisited, shades.Accent);
+    palette.setColor(QPalette::Highlight, shades.Accent);
+    palette.setColor(QPalette::HighlightedText, shades.OnAccent);
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, shades.IdleHighlight);
+    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, shades.Text);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, shades.Button);
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, shades.Dim);
+    return palette;
+}
+
+} // namespace
+
+void Theme::Apply(QApplication& application, Scheme scheme)
+{
+    // The desktop's own palette is the only sign of its colour scheme; it must be read before ours goes over it.
+    const bool systemIsDark = QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
+    const bool dark = scheme == Scheme::Dark || (scheme == Scheme::System && systemIsDark);
+    QApplication::setStyle(new ThemeStyle);
+    QApplication::setPalette(PaletteOf(dark ? DarkShades() : LightShades()));
+    QObject::connect(&application, &QApplication::focusChanged, &application, [](QWidget* old, QWidget* now) {
+        for (QWidget* widget : {old, now})
+            if (widget != nullptr)
+                widget->update();
+    });
+}

@@ -1,0 +1,95 @@
+#include "core/RunTimeError.h"
+#include "support/Windows.h"
+#include "ui/widgets/CommonDialog.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class tst_CommonDialog : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void cleanup() { CommonDialog::SetSource({}); }
+    void the_default_extension_data();
+    void the_default_extension();
+    void a_cancel_leaves_the_name_or_raises();
+    void the_window_gives_what_is_typed();
+    void the_window_can_be_cancelled();
+
+private:
+    QTemporaryDir m_folder;
+};
+
+void tst_CommonDialog::the_default_extension_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("is appended to a bare name") << u"contacts"_s << u"contacts.ocm"_s;
+    QTest::newRow("gives way to one that was typed") << u"contacts.txt"_s << u"contacts.txt"_s;
+    QTest::newRow("is not looked for in folders") << u"my.folder/contacts"_s << u"contacts.ocm"_s;
+}
+
+void tst_CommonDialog::the_default_extension()
+{
+    QFETCH(QString, typed);
+    CommonDialog::SetSource([&typed](const CommonDialog&, bool) { return typed; });
+    CommonDialog dialog;
+    dialog.InitDir = m_folder.path();
+    dialog.DefaultExt = u"ocm"_s;
+    dialog.ShowSave(nullptr);
+    QTEST(dialog.FileTitle(), "title");
+    QVERIFY(dialog.FileName.startsWith(m_folder.path()));
+}
+
+void tst_CommonDialog::a_cancel_leaves_the_name_or_raises()
+{
+    CommonDialog::SetSource([](const CommonDialog&, bool) { return QString(); });
+    CommonDialog dialog;
+    dialog.FileName = u"before"_s;
+    dialog.ShowOpen(nullptr);
+    QCOMPARE(dialog.FileName, u"before"_s);
+    dialog.CancelError = true;
+    int number = 0;
+    try {
+        dialog.ShowOpen(nullptr);
+    } catch (const RunTimeError& error) {
+        number = error.Number();
+    }
+    QCOMPARE(number, 32755);
+}
+
+void tst_CommonDialog::the_window_gives_what_is_typed()
+{
+    const WhenWindowOpens window(
+        u"The file window"_s, [] { return qobject_cast<QFileDialog*>(QApplication::activeModalWidget()); },
+        [](QWidget& shown) {
+            shown.findChild<QLineEdit*>()->setText(u"letters"_s);
+            TypeKey(shown, Qt::Key_Return);
+        });
+    CommonDialog dialog;
+    dialog.InitDir = m_folder.path();
+    dialog.DefaultExt = u"ocm"_s;
+    dialog.ShowSave(nullptr);
+    QCOMPARE(dialog.FileName, QDir(m_folder.path()).filePath(u"letters.ocm"_s));
+}
+
+void tst_CommonDialog::the_window_can_be_cancelled()
+{
+    const WhenWindowOpens window(
+        u"The file window"_s, [] { return qobject_cast<QFileDialog*>(QApplication::activeModalWidget()); },
+        [](QWidget& shown) { TypeKey(shown, Qt::Key_Escape); });
+    CommonDialog dialog;
+    dialog.ShowOpen(nullptr);
+    QVERIFY(dialog.FileName.isEmpty());
+}
+
+QTEST_MAIN(tst_CommonDialog)
+#include "tst_CommonDialog.moc"
