@@ -23,7 +23,9 @@ namespace {
 
 constexpr int CellMargin = 12;
 constexpr int HeaderMargin = 16;
-constexpr int BackgroundWash = 205; // of 255: how much of the palette's base lies over the picture
+// Of 255: how much of the palette's base lies over the picture.
+constexpr int LightWash = 165;
+constexpr int DarkWash = 228;
 
 } // namespace
 
@@ -494,7 +496,7 @@ void Grid::PaintBackground()
     QPainter painter(viewport());
     painter.drawPixmap(0, 0, m_backgroundScaled);
     QColor wash = palette().color(QPalette::Base);
-    wash.setAlpha(BackgroundWash);
+    wash.setAlpha(wash.lightness() < 128 ? DarkWash : LightWash);
     painter.fillRect(viewport()->rect(), wash);
 }
 
@@ -503,18 +505,14 @@ void Grid::paintEvent(QPaintEvent* event)
     if (!m_background.isNull())
         PaintBackground();
     QTableView::paintEvent(event);
-    if (!hasFocus())
-        return;
-    QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::Active, QPalette::Highlight));
-    painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
 }
 
 void Grid::scrollContentsBy(int dx, int dy)
 {
     QTableView::scrollContentsBy(dx, dy);
-    // The picture and the focus frame stand still while the rows move over them.
-    viewport()->update();
+    // The picture stands still while the rows move over it.
+    if (!m_background.isNull())
+        viewport()->update();
 }
 
 void Grid::changeEvent(QEvent* event)
@@ -542,13 +540,6 @@ void Grid::focusInEvent(QFocusEvent* event)
     // Coming into a list must not choose a row.
     if (!hadCurrent && currentIndex().isValid())
         m_selection->clearCurrentIndex();
-    viewport()->update();
-}
-
-void Grid::focusOutEvent(QFocusEvent* event)
-{
-    QTableView::focusOutEvent(event);
-    viewport()->update();
 }
 
 void Grid::keyPressEvent(QKeyEvent* event)

@@ -144,7 +144,6 @@ Q_SIGNALS:
 protected:
     void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyboardSearch(const QString& text) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
