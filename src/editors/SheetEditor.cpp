@@ -4,6 +4,7 @@
 #include "model/Lists.h"
 #include "ui/widgets/Grid.h"
 #include "ui/widgets/KeyCodes.h"
+#include "ui/widgets/Theme.h"
 
 #include <limits>
 #include <QComboBox>
@@ -25,14 +26,13 @@ constexpr int ValueColumn = 2;
 constexpr int LabelWidth = 100;
 constexpr int ValueWidth = 300;
 constexpr int FewestRows = 5;
-constexpr QColor Lavender(0xE8, 0xE9, 0xFF);
 
 /// Lavender with dark letters, in any palette of the program.
 void PaintAsEdit(QWidget& control)
 {
     QPalette palette = control.palette();
     for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Button, QPalette::Window})
-        palette.setColor(role, Lavender);
+        palette.setColor(role, Theme::Lavender);
     for (const QPalette::ColorRole role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText})
         palette.setColor(role, Qt::black);
     control.setPalette(palette);
@@ -78,7 +78,7 @@ void SheetEditor::AddGrid()
     m_grid->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_grid->SetHeaderVisible(false);
     m_grid->AddColumn({.Key = u"Label"_s, .Header = {}, .HeaderIcon = {}, .Width = LabelWidth});
-    m_grid->AddColumn({.Key = u"Value"_s, .Header = {}, .HeaderIcon = {}, .Width = ValueWidth});
+    m_grid->AddColumn({.Key = u"Value"_s, .Header = {}, .HeaderIcon = {}, .Width = 0});
     m_grid->horizontalHeader()->setStretchLastSection(true);
     for (const SheetRow& row : m_rows)
         AddGridRow(*m_grid, row.Label);
@@ -227,7 +227,7 @@ void SheetEditor::SetNextFocus(int row)
     if (m_row != 0)
         PaintRow(m_row, false);
     m_row = row;
-    m_grid->EnsureVisible(row, ValueColumn);
+    m_grid->EnsureVisible(row, LabelColumn);
     PaintRow(row, true);
     Load(row);
     Control(row)->show();
@@ -264,7 +264,7 @@ void SheetEditor::Place()
 
 void SheetEditor::PaintRow(int row, bool inEdit)
 {
-    m_grid->SetCellBackColor(row, ValueColumn, inEdit ? Lavender : QColor());
+    m_grid->SetCellBackColor(row, ValueColumn, inEdit ? Theme::Lavender : QColor());
     if (inEdit) {
         QFont bold = m_grid->font();
         bold.setBold(true);
@@ -373,6 +373,7 @@ bool SheetEditor::SwallowsKey(int row, QKeyEvent* event)
 {
     const bool withCtrl = event->modifiers().testFlag(Qt::ControlModifier);
     const int ascii = KeyAscii(*event);
+    m_typing = false;
     if (ascii == Key::Escape) {
         // A list would take it for a letter to look for; the window is who knows what Esc does.
         event->ignore();
@@ -380,7 +381,7 @@ bool SheetEditor::SwallowsKey(int row, QKeyEvent* event)
     }
     if (!withCtrl && (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab))
         return TabKey(event->key() == Qt::Key_Backtab || event->modifiers().testFlag(Qt::ShiftModifier));
-    m_grid->EnsureVisible(row, ValueColumn);
+    m_grid->EnsureVisible(row, LabelColumn);
     if (ascii == Key::Enter) {
         Enter();
         return true;
@@ -390,6 +391,7 @@ bool SheetEditor::SwallowsKey(int row, QKeyEvent* event)
     const SheetRow& rule = At(row);
     if (rule.Accepts && !rule.Accepts(ascii, ControlText(row)))
         return true;
+    m_typing = true;
     if (rule.PressMask && ascii != Key::Backspace)
         SetField(row, rule.PressMask(Field(row)));
     return false;
@@ -441,8 +443,9 @@ void SheetEditor::Edited(int row, const QString& now)
     const Insertion edit = FindInsertion(m_before, now);
     const SheetRow& rule = At(row);
     QString kept;
+    const bool accepted = std::exchange(m_typing, false) && edit.Text.size() == 1;
     for (const QChar c : OneLine(edit.Text))
-        if (!rule.Accepts || rule.Accepts(c.unicode(), now.left(edit.Position) + kept))
+        if (accepted || !rule.Accepts || rule.Accepts(c.unicode(), now.left(edit.Position) + kept))
             kept += c;
     if (kept != edit.Text)
         SetField(row, {now.left(edit.Position) + kept + now.mid(edit.Position + edit.Text.size()),

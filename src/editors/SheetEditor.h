@@ -103,6 +103,8 @@ private:
     int m_row = 0;
     int m_shown = 0;
     bool m_moving = false;
+    /// A key was accepted and is on its way into the field.
+    bool m_typing = false;
     /// What stood in the field in edit before the edit that is being told.
     QString m_before;
 };
