@@ -7,8 +7,9 @@
 #include "ui/widgets/Theme.h"
 
 #include <limits>
+#include <QAbstractItemView>
 #include <QComboBox>
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -26,6 +27,7 @@ constexpr int ValueColumn = 2;
 constexpr int LabelWidth = 100;
 constexpr int ValueWidth = 300;
 constexpr int FewestRows = 5;
+constexpr int Air = 3;
 
 /// Lavender with dark letters, in any palette of the program.
 void PaintAsEdit(QWidget& control)
@@ -72,6 +74,7 @@ void SheetEditor::AddGrid()
 {
     m_grid = new Grid(this);
     m_grid->setObjectName(u"Grid2"_s);
+    m_grid->setAccessibleName(u"Sheet"_s);
     m_grid->setFocusPolicy(Qt::NoFocus);
     m_grid->setShowGrid(true);
     m_grid->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -96,6 +99,8 @@ void SheetEditor::AddControl(int row)
     if (rule.Control.startsWith("cbo"_L1)) {
         auto* list = new QComboBox(m_grid->viewport());
         list->addItems(ListEntries(rule.List));
+        // The popup is a window of its own, in the colours of the others.
+        list->view()->parentWidget()->setPalette(QGuiApplication::palette());
         control = list;
     } else {
         auto* field = new QLineEdit(m_grid->viewport());
@@ -119,7 +124,7 @@ void SheetEditor::FitRows()
 {
     int height = m_grid->fontMetrics().height() + 6;
     for (const QWidget* control : m_controls)
-        height = std::max(height, control->sizeHint().height());
+        height = std::max(height, control->sizeHint().height() + Air);
     if (m_grid->verticalHeader()->defaultSectionSize() != height)
         m_grid->verticalHeader()->setDefaultSectionSize(height);
     QFont bold = m_grid->font();

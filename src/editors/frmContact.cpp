@@ -85,7 +85,9 @@ void frmContact::LoadBitMaps()
     connect(m_buttons, &HoverButtonArray::Click, this, &frmContact::Press);
     const std::pair<int, QString> keys[] = {{Cancel, u"Alt+C"_s}, {SaveAndExit, u"Alt+S"_s}, {SaveNAdd, u"Alt+A"_s}};
     for (const auto& [index, key] : keys) {
-        connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this, [this, i = index] { Press(i); });
+        auto* shortcut = new QShortcut(QKeySequence(key), this);
+        shortcut->setAutoRepeat(false);
+        connect(shortcut, &QShortcut::activated, this, [this, i = index] { Press(i); });
         HoverButton* button = m_buttons->Button(index);
         button->setToolTip(u"%1 (%2)"_s.arg(button->text(), key));
     }

@@ -48,6 +48,8 @@ frmNotes::frmNotes()
 {
     m_ui->setupUi(this);
     m_scaler = std::make_unique<ResizeScaler>(*this, std::vector<const QWidget*>{m_ui->txtNotes});
+    // A small screen may shrink the window before its first resize is told.
+    m_scaler->SaveSizes();
     LoadBitMaps();
     AddKeys();
     Form_Load();
@@ -90,7 +92,9 @@ void frmNotes::LoadBitMaps()
 void frmNotes::AddKeys()
 {
     const auto on = [this](const QString& key, auto act) {
-        connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this, act);
+        auto* shortcut = new QShortcut(QKeySequence(key), this);
+        shortcut->setAutoRepeat(false);
+        connect(shortcut, &QShortcut::activated, this, act);
     };
     on(u"Alt+D"_s, [this] { picStamp_Click(); });
     on(u"Alt+S"_s, [this] { cmdButton_Click(SaveButton); });
@@ -201,10 +205,16 @@ void frmNotes::Form_QueryUnload(bool& cancel, UnloadMode mode)
 bool frmNotes::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_ui->txtNotes && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
+        auto* press = static_cast<QKeyEvent*>(event);
+        const int key = press->key();
         // Any key counts as a change, also one that is taken back, which is meant.
         if (!IsModifier(key) && key != Qt::Key_Escape && key != Qt::Key_Tab && key != Qt::Key_Backtab)
             m_dirty = true;
+        // Every break is a line of its own in the store.
+        if (press->matches(QKeySequence::InsertLineSeparator)) {
+            m_ui->txtNotes->insertPlainText(u"\n"_s);
+            return true;
+        }
     }
     return Form::eventFilter(watched, event);
 }
