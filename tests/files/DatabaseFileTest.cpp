@@ -1,5 +1,6 @@
 #include "Database.h"
 
+#include <memory>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -13,8 +14,11 @@ class DatabaseFileTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QVERIFY(Database::Make(m_delivered)); }
-    void init();
+    void initTestCase();
+    // Every row finds the file as it was delivered. (Opening it anew for each would derive the key anew, which is slow
+    // on purpose.)
+    void init() { QCOMPARE(m_database->Run("BEGIN"), QString()); }
+    void cleanup() { QCOMPARE(m_database->Run("ROLLBACK"), QString()); }
 
     void TheFileIsEncryptedAndItsOwnersAlone();
     void AnExistingFileIsLeftAlone();
@@ -30,14 +34,13 @@ private slots:
 private:
     QTemporaryDir m_folder;
     QString m_delivered = m_folder.filePath(u"Delivered.mdb"_s);
-    QString m_path;
-    int m_count = 0;
+    std::unique_ptr<Database> m_database;
 };
 
-void DatabaseFileTest::init()
+void DatabaseFileTest::initTestCase()
 {
-    m_path = m_folder.filePath(u"%1.mdb"_s.arg(++m_count));
-    QVERIFY(QFile::copy(m_delivered, m_path)); // a fresh one for each row
+    QVERIFY(Database::Make(m_delivered));
+    m_database = std::make_unique<Database>(m_delivered);
 }
 
 void DatabaseFileTest::TheFileIsEncryptedAndItsOwnersAlone()
@@ -71,23 +74,21 @@ void DatabaseFileTest::AnExistingFileIsLeftAlone()
 
 void DatabaseFileTest::SevenTablesAreDeliveredEmpty()
 {
-    Database database(m_path);
     for (const char* table :
          {"Categories", "SubCategories", "Contacts", "PropDetail", "Alerts", "FormLetters", "Settings"})
-        QCOMPARE(database.Value("SELECT count(*) FROM "_ba + table), u"0"_s);
-    QVERIFY(database.Value("SELECT count(*) FROM LabelNumbers").toInt() > 100);
+        QCOMPARE(m_database->Value("SELECT count(*) FROM "_ba + table), u"0"_s);
+    QVERIFY(m_database->Value("SELECT count(*) FROM LabelNumbers").toInt() > 100);
 }
 
 void DatabaseFileTest::EveryColumnHasADeclaredKind()
 {
     static const QStringList kinds{u"INTEGER"_s,  u"LONG"_s, u"INTEGER16"_s, u"REAL4"_s,
                                    u"CURRENCY"_s, u"TEXT"_s, u"MEMOTEXT"_s,  u"DATETEXT"_s};
-    Database database(m_path);
     const auto tables =
-        database.Rows("SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%'");
+        m_database->Rows("SELECT name FROM sqlite_master WHERE type = 'table' AND name NOT LIKE 'sqlite%'");
     QCOMPARE(tables.size(), 9);
     for (const QStringList& table : tables) {
-        for (const QStringList& column : database.Rows("PRAGMA table_info(" + table[0].toLatin1() + ')')) {
+        for (const QStringList& column : m_database->Rows("PRAGMA table_info(" + table[0].toLatin1() + ')')) {
             QVERIFY2(kinds.contains(column[2]), qPrintable(table[0] + u'.' + column[1]));
             QCOMPARE(column[2] == "INTEGER"_L1, column[5] == "1"_L1); // the key, and nothing else
         }
@@ -142,14 +143,13 @@ void DatabaseFileTest::ATableTakesWhatFitsAndRefusesTheRest()
     QFETCH(QByteArray, column);
     QFETCH(QByteArray, value);
     QFETCH(QString, stored);
-    Database database(m_path);
-    const QString complaint = database.Run("INSERT INTO " + table + " (" + column + ") VALUES (" + value + ')');
+    const QString complaint = m_database->Run("INSERT INTO " + table + " (" + column + ") VALUES (" + value + ')');
     if (stored.isNull()) {
         QVERIFY2(complaint.contains(QLatin1StringView(column)), qPrintable(complaint)); // it names the column
-        QCOMPARE(database.Value("SELECT count(*) FROM " + table), u"0"_s);
+        QCOMPARE(m_database->Value("SELECT count(*) FROM " + table), u"0"_s);
     } else {
         QCOMPARE(complaint, QString());
-        QCOMPARE(database.Value("SELECT " + column + " FROM " + table), stored);
+        QCOMPARE(m_database->Value("SELECT " + column + " FROM " + table), stored);
     }
 }
 
@@ -199,39 +199,36 @@ void DatabaseFileTest::TheOldestOfEqualRowsComesFirst()
     QFETCH(QByteArray, where);
     QFETCH(QString, index);
     QFETCH(QString, ids);
-    Database database(m_path);
     for (const QByteArray& value : values)
-        QCOMPARE(database.Run("INSERT INTO " + table + " (" + columns + ") VALUES (" + value + ')'), QString());
+        QCOMPARE(m_database->Run("INSERT INTO " + table + " (" + columns + ") VALUES (" + value + ')'), QString());
     const QByteArray select = "SELECT ID FROM " + table + " WHERE " + where;
     QStringList found;
-    for (const QStringList& row : database.Rows(select))
+    for (const QStringList& row : m_database->Rows(select))
         found += row[0];
     QCOMPARE(found.join(u','), ids);
-    const QString plan = database.Rows("EXPLAIN QUERY PLAN " + select).value(0).join(u' ');
+    const QString plan = m_database->Rows("EXPLAIN QUERY PLAN " + select).value(0).join(u' ');
     QVERIFY2(plan.contains(index), qPrintable(plan));
 }
 
 void DatabaseFileTest::ANumberIsNeverUsedAgain()
 {
-    Database database(m_path);
     for (const char* sql :
          {"INSERT INTO Contacts (LastName) VALUES ('One')", "INSERT INTO Contacts (LastName) VALUES ('Two')",
           "DELETE FROM Contacts WHERE ID = 2", "INSERT INTO Contacts (LastName) VALUES ('Three')",
           "DELETE FROM Contacts", "INSERT INTO Contacts (LastName) VALUES ('Four')"})
-        QCOMPARE(database.Run(sql), QString());
-    QCOMPARE(database.Rows("SELECT ID, LastName FROM Contacts"), (QList<QStringList>{{u"4"_s, u"Four"_s}}));
+        QCOMPARE(m_database->Run(sql), QString());
+    QCOMPARE(m_database->Rows("SELECT ID, LastName FROM Contacts"), (QList<QStringList>{{u"4"_s, u"Four"_s}}));
 }
 
 void DatabaseFileTest::SettingsHoldOneRow()
 {
-    Database database(m_path);
     const QByteArray insert =
         "INSERT INTO Settings (LabelProduct, LabelNumber, DefaultPicture, DefaultPropPicture, ClientName) "
         "VALUES (0, '', 'a', 'b', '')";
-    QCOMPARE(database.Run(insert), QString());
-    QVERIFY(!database.Run(insert).isEmpty());
-    QCOMPARE(database.Run("UPDATE Settings SET LabelProduct=2, LabelNumber='5160', Clock=3"), QString());
-    QCOMPARE(database.Rows("SELECT LabelProduct, LabelNumber, Clock FROM Settings"),
+    QCOMPARE(m_database->Run(insert), QString());
+    QVERIFY(!m_database->Run(insert).isEmpty());
+    QCOMPARE(m_database->Run("UPDATE Settings SET LabelProduct=2, LabelNumber='5160', Clock=3"), QString());
+    QCOMPARE(m_database->Rows("SELECT LabelProduct, LabelNumber, Clock FROM Settings"),
              (QList<QStringList>{{u"2"_s, u"5160"_s, u"3"_s}}));
 }
 

@@ -1,5 +1,6 @@
 #include "Database.h"
 
+#include <memory>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -46,12 +47,14 @@ private slots:
 private:
     QTemporaryDir m_folder;
     QString m_path;
+    std::unique_ptr<Database> m_database;
 };
 
 void SampleTest::initTestCase()
 {
     m_path = MakeSample(m_folder, u"sample.mdb"_s, {u"--contacts"_s, u"2000"_s, u"--seed"_s, u"7"_s});
     QVERIFY(!m_path.isEmpty());
+    m_database = std::make_unique<Database>(m_path);
 }
 
 void SampleTest::ASeedAlwaysGivesTheSameAgency()
@@ -104,7 +107,7 @@ void SampleTest::NothingHangsInTheAir_data()
 void SampleTest::NothingHangsInTheAir()
 {
     QFETCH(QByteArray, wrong);
-    QCOMPARE(Database(m_path).Value("SELECT count(*) FROM " + wrong), u"0"_s);
+    QCOMPARE(m_database->Value("SELECT count(*) FROM " + wrong), u"0"_s);
 }
 
 void SampleTest::TheAgencyIsOfABelievableShape_data()
@@ -128,7 +131,7 @@ void SampleTest::TheAgencyIsOfABelievableShape()
     QFETCH(QByteArray, count);
     QFETCH(int, least);
     QFETCH(int, most);
-    const int found = Database(m_path).Value("SELECT count(*) FROM " + count).toInt();
+    const int found = m_database->Value("SELECT count(*) FROM " + count).toInt();
     QVERIFY2(found >= least && found <= most, qPrintable(QString::number(found)));
 }
 
