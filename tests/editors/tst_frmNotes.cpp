@@ -121,11 +121,11 @@ private Q_SLOTS:
         QCOMPARE(Desk::StoredNotes(), stored);
     }
 
-    void a_hard_blank_outlives_a_change()
+    void a_hard_blank_outlives_a_change_and_every_break_is_a_line()
     {
         Desk desk(u"a\u00A0b"_s);
         Notes notes;
-        notes.Key(Qt::Key_Return);
+        notes.Key(Qt::Key_Return, Qt::ShiftModifier);
         notes.Save();
         QCOMPARE(Desk::StoredNotes(), u"\r\na\u00A0b"_s);
     }

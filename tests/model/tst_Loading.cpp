@@ -65,7 +65,7 @@ void tst_Loading::OrphansArePurgedWithoutAWord()
     Load();
     QCOMPARE(gContacts.Count(), 1);
     QCOMPARE(CategoryAt(1)->ContactCount, 1);
-    user.VerifyDone();
+    user.Done();
 }
 
 void tst_Loading::WithoutContactsTheAlertsAreNotRead()
@@ -91,7 +91,7 @@ void tst_Loading::AnAlertOfAMissingContactEndsTheLoad()
     Load();
     QCOMPARE(ContactAt(1)->NumberOfAlerts, 1);
     QCOMPARE(gContacts.Count(), 2); // asking for the missing contact has left its key behind
-    user.VerifyDone();
+    user.Done();
 }
 
 void tst_Loading::AnAlertWithoutADateEndsTheLoad()
@@ -105,7 +105,7 @@ void tst_Loading::AnAlertWithoutADateEndsTheLoad()
     user.Expect(u"LoadContacts Error #13"_s, u"Type mismatch"_s, Answer::Ok);
     Load();
     QCOMPARE(FreshDatabase::Rows(u"Select AlertDate from Alerts"_s), QStringList{u"some day"_s});
-    user.VerifyDone();
+    user.Done();
 }
 
 void tst_Loading::TheBarMovesByOnePercentForARow()
@@ -136,7 +136,7 @@ void tst_Loading::TheFirstStartWritesOneRowOfSettings()
     fresh.StartAnew();
     LoadSettings();
     QCOMPARE(FreshDatabase::Rows(u"Select LabelProduct from Settings"_s).size(), 1);
-    user.VerifyDone();
+    user.Done();
 }
 
 void tst_Loading::NullsOfTheSettingsAreFilled()
@@ -151,7 +151,7 @@ void tst_Loading::NullsOfTheSettingsAreFilled()
     QCOMPARE(gSettings.ClientName, u"Orvantine 1.0 "_s);
     QCOMPARE(gSettings.Clock, 2);
     QCOMPARE(gSettings.LabelProduct, 0);
-    user.VerifyDone();
+    user.Done();
 }
 
 void tst_Loading::AMissingPictureIsReportedOnce()
@@ -169,7 +169,7 @@ void tst_Loading::AMissingPictureIsReportedOnce()
     fresh.StartAnew();
     LoadSettings();
     QCOMPARE(gSettings.ClientName, u"Lee Realty "_s);
-    user.VerifyDone();
+    user.Done();
 }
 
 void tst_Loading::TheTitleOfTheMakerIsTheProgramsOwn()
@@ -181,7 +181,7 @@ void tst_Loading::TheTitleOfTheMakerIsTheProgramsOwn()
     QCOMPARE(gSettings.ClientName, u"Orvantine 1.0 "_s);
     SetClientName(u"Lee's "_s);
     QCOMPARE(FreshDatabase::Rows(u"Select ClientName from Settings"_s), QStringList{u"Lee's "_s});
-    user.VerifyDone();
+    user.Done();
 }
 
 QTEST_APPLESS_MAIN(tst_Loading)

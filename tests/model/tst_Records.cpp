@@ -109,17 +109,18 @@ void tst_Records::AnApostropheIsStoredWhereItIsProtected()
     const QStringList before = FreshDatabase::WholeFile();
 
     const auto contact = NewContact();
+    contact->MailAddr1 = u"2 Oak St"_s;
     contact.get()->*members[member] = u"o'x"_s;
     if (!inserted)
-        user.ExpectTitle(u"Class Contact AddToDB Error #-2147217900"_s);
+        user.ExpectReport(u"Class Contact AddToDB Error #-2147217900"_s);
     QCOMPARE(contact->AddToDB(2), inserted ? 2 : 0);
     QCOMPARE(FreshDatabase::WholeFile() == before, !inserted);
     if (!updated)
-        user.ExpectTitle(u"Class Contact UpdtateDB Error #-2147217900"_s);
+        user.ExpectReport(u"Class Contact UpdtateDB Error #-2147217900"_s);
     const QStringList beforeUpdate = FreshDatabase::WholeFile();
     contact->UpdateDB(1);
     QCOMPARE(FreshDatabase::WholeFile() == beforeUpdate, !updated);
-    user.VerifyDone();
+    user.Done();
 }
 
 void tst_Records::AnApostropheInTheAddressLeavesTheRowButNoID()
@@ -128,10 +129,10 @@ void tst_Records::AnApostropheInTheAddressLeavesTheRowButNoID()
     ScriptedUser user;
     const auto contact = NewContact();
     contact->MailAddr1 = u"1 O'Hara Rd"_s;
-    user.ExpectTitle(u"Class Contact AddToDB Error #-2147217900"_s);
+    user.ExpectReport(u"Class Contact AddToDB Error #-2147217900"_s);
     QCOMPARE(contact->AddToDB(2), 0);
     QCOMPARE(FreshDatabase::Rows(u"Select MailAddr1 from Contacts"_s), QStringList{u"1 O'Hara Rd"_s});
-    user.VerifyDone();
+    user.Done();
 }
 
 void tst_Records::TheReadBackTakesTheOlderOfEqualRows()
@@ -205,10 +206,10 @@ void tst_Records::APropertyIsWrittenByTheseStatements()
     QCOMPARE(read->Elevator, QString());
 
     property.Addr1 = u"O'Hara Rd"_s;
-    user.ExpectTitle(u"Class PropDetail UpdateDB Error #-2147217900"_s);
+    user.ExpectReport(u"Class PropDetail UpdateDB Error #-2147217900"_s);
     property.UpdateDB();
     QCOMPARE(FreshDatabase::Rows(u"Select Addr1 from PropDetail"_s), QStringList{u"2 Oak"_s});
-    user.VerifyDone();
+    user.Done();
 }
 
 void tst_Records::EmptiedNotesOfAPropertyStayInTheTable()
@@ -251,7 +252,7 @@ void tst_Records::ANewCategoryOfAKnownNameIsRefused()
                     Answer::Ok);
     }
     QCOMPARE(category.CreateACategory(true), id);
-    user.VerifyDone();
+    user.Done();
 }
 
 void tst_Records::ASubcategoryWithAnApostropheFailsAndStaysInMemoryWithoutAnID()
@@ -264,7 +265,7 @@ void tst_Records::ASubcategoryWithAnApostropheFailsAndStaysInMemoryWithoutAnID()
     auto sub = std::make_shared<Category>();
     sub->ParentID = 1;
     sub->Description = u"Friend's"_s;
-    user.ExpectTitle(u"CreateASubCategory Error #-2147217900"_s);
+    user.ExpectReport(u"CreateASubCategory Error #-2147217900"_s);
     CreateASubCategory(sub, true);
     QCOMPARE(CategoryAt(1)->Subs->size(), 1U);
     QCOMPARE(sub->RecID, 0);
@@ -277,7 +278,7 @@ void tst_Records::ASubcategoryWithAnApostropheFailsAndStaysInMemoryWithoutAnID()
                 Answer::Ok);
     CreateASubCategory(again, true);
     QCOMPARE(user.LastStatus(), u"Friend's has not been Created"_s);
-    user.VerifyDone();
+    user.Done();
 }
 
 void tst_Records::AKeyOfANodeGivesItsID_data()
@@ -298,7 +299,7 @@ void tst_Records::AKeyOfANodeGivesItsID()
     if (id == 0)
         user.Expect(u"GetKey  Error #13"_s, u"Type mismatch"_s, Answer::Ok);
     QCOMPARE(GetKey(key), id);
-    user.VerifyDone();
+    user.Done();
 }
 
 void tst_Records::TheWorstAlertGivesTheColour_data()
@@ -347,7 +348,7 @@ void tst_Records::AnAlertIsChangedInTheRowOfTheCurrentOne()
     curAlertIndex = FindAlert(3);
     user.Expect(u"Class Alert UpdateDB Error #9"_s, u"Subscript out of range"_s, Answer::Ok);
     alert.UpdateDB();
-    user.VerifyDone();
+    user.Done();
 }
 
 QTEST_APPLESS_MAIN(tst_Records)

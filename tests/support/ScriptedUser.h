@@ -24,6 +24,8 @@ public:
 
     /// The next box must bear this title and text, and gets this answer.
     void Expect(const QString& title, const QString& text, Answer answer = Answer::Ok);
+    /// The next box must be an error report under this title; its words are the engine's own.
+    void ExpectReport(const QString& title);
     /// The next question for a line of text must bear this caption, and gets this reply.
     void ExpectAskFor(const QString& caption, const QString& reply);
     /// Fails the test when something expected has not come; the destructor does so too.

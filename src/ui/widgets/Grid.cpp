@@ -1,6 +1,5 @@
 #include "ui/widgets/Grid.h"
 
-#include "core/Dates.h"
 #include "core/RunTimeError.h"
 #include "ui/widgets/GridDelegate.h"
 #include "ui/widgets/GridFit.h"
@@ -15,7 +14,6 @@
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QPointer>
 #include <utility>
 
@@ -23,9 +21,6 @@ namespace {
 
 constexpr int CellMargin = 12;
 constexpr int HeaderMargin = 16;
-// Of 255: how much of the palette's base lies over the picture.
-constexpr int LightWash = 165;
-constexpr int DarkWash = 228;
 
 } // namespace
 
@@ -477,33 +472,13 @@ void Grid::SetHeaderVisible(bool visible)
 
 void Grid::SetBackgroundPicture(const QString& path)
 {
-    m_background = path.isEmpty() ? QPixmap() : QPixmap(path);
-    m_backgroundScaled = {};
+    m_background.Load(path);
     viewport()->update();
-}
-
-void Grid::PaintBackground()
-{
-    const qreal ratio = viewport()->devicePixelRatioF();
-    const QSize size = viewport()->size() * ratio;
-    if (m_backgroundScaled.size() != size) {
-        const QPixmap covering = m_background.scaled(size, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
-        QRect middle(QPoint(), size);
-        middle.moveCenter(covering.rect().center());
-        m_backgroundScaled = covering.copy(middle);
-        m_backgroundScaled.setDevicePixelRatio(ratio);
-    }
-    QPainter painter(viewport());
-    painter.drawPixmap(0, 0, m_backgroundScaled);
-    QColor wash = palette().color(QPalette::Base);
-    wash.setAlpha(wash.lightness() < 128 ? DarkWash : LightWash);
-    painter.fillRect(viewport()->rect(), wash);
 }
 
 void Grid::paintEvent(QPaintEvent* event)
 {
-    if (!m_background.isNull())
-        PaintBackground();
+    m_background.Paint(*viewport());
     QTableView::paintEvent(event);
 }
 
@@ -511,7 +486,7 @@ void Grid::scrollContentsBy(int dx, int dy)
 {
     QTableView::scrollContentsBy(dx, dy);
     // The picture stands still while the rows move over it.
-    if (!m_background.isNull())
+    if (m_background.IsShown())
         viewport()->update();
 }
 
@@ -676,40 +651,4 @@ void Grid::HighlightLate()
         return;
     const ByCode byCode(*this);
     m_selection->select(currentIndex(), QItemSelectionModel::Select | QItemSelectionModel::Rows);
-}
-
-// The procedures that all lists share.
-
-int AddGridRow(Grid& grid, const QString& text, Long itemData)
-{
-    const int row = grid.AddRow(itemData);
-    grid.SetCellText(row, 1, text);
-    return row;
-}
-
-bool AnySelectedCol(int row, const Grid& grid)
-{
-    for (int column = 1; column <= grid.Columns(); ++column)
-        if (grid.CellSelected(row, column))
-            return true;
-    return false;
-}
-
-void SortGrid(Grid& grid, int column)
-{
-    SortType type = grid.Column(column).Sort;
-    int row = 1;
-    while (row < grid.Rows() && grid.CellText(row, column).isEmpty())
-        ++row;
-    if (row <= grid.Rows() && IsDate(grid.CellText(row, column)))
-        type = SortType::Date;
-    const int direction = grid.SortOrder(1) == 2 ? 1 : 2;
-    grid.SetSortOrder(1, direction);
-    grid.Sort(column, type, direction);
-    for (row = 1; row <= grid.Rows(); ++row) {
-        if (!grid.RowVisible(row))
-            continue;
-        grid.SetSelectedRow(row);
-        break;
-    }
 }
