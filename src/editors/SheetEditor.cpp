@@ -42,9 +42,7 @@ void PaintAsEdit(QWidget& control)
 
 } // namespace
 
-SheetEditor::SheetEditor(std::vector<SheetRow> rows, QWidget* parent)
-    : QWidget(parent)
-    , m_rows(std::move(rows))
+SheetEditor::SheetEditor(std::vector<SheetRow> rows, QWidget* parent) : QWidget(parent), m_rows(std::move(rows))
 {
     // The order of making is the order of Tab.
     m_txtFirst = AddSentinel(u"txtFirst"_s);

@@ -36,15 +36,13 @@ bool IsOfProperty()
 
 bool IsModifier(int key)
 {
-    return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_AltGr || key == Qt::Key_Meta;
+    return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_AltGr ||
+           key == Qt::Key_Meta;
 }
 
 } // namespace
 
-frmNotes::frmNotes()
-    : Form(u"frmNotes"_s)
-    , m_ui(std::make_unique<Ui::frmNotes>())
-    , m_ofProperty(IsOfProperty())
+frmNotes::frmNotes() : Form(u"frmNotes"_s), m_ui(std::make_unique<Ui::frmNotes>()), m_ofProperty(IsOfProperty())
 {
     m_ui->setupUi(this);
     m_scaler = std::make_unique<ResizeScaler>(*this, std::vector<const QWidget*>{m_ui->txtNotes});

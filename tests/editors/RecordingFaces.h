@@ -4,7 +4,8 @@
 
 #include <QStringList>
 
-// Stand-ins for the windows that the editors call, which write down what they were asked. The store and the editors are real.
+// Stand-ins for the windows that the editors call, which write down what they were asked. The store and the editors are
+// real.
 
 /// GridList of frmList: the IDs of its rows, and which row is selected.
 class RecordingList final : public ContactListFace

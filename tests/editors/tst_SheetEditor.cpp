@@ -102,23 +102,27 @@ private Q_SLOTS:
         const QString none;
         const QStringList onward{u"validate txt1"_s, u"lost txt1"_s, u"got txt2 from 1"_s};
         QTest::newRow("Tab") << 1 << u"Tab"_s << none << (onward + QStringList{u"up txt2"_s}) << 2;
-        QTest::newRow("Tab, refused") << 1 << u"Tab"_s << u"validate"_s << QStringList{u"validate txt1"_s, u"up txt1"_s} << 1;
+        QTest::newRow("Tab, refused") << 1 << u"Tab"_s << u"validate"_s << QStringList{u"validate txt1"_s, u"up txt1"_s}
+                                      << 1;
         QTest::newRow("Tab, sent back") << 1 << u"Tab"_s << u"got"_s << (onward + QStringList{u"up txt1"_s}) << 1;
         QTest::newRow("Shift+Tab") << 2 << u"Backtab"_s << none
-                                   << QStringList{u"validate txt2"_s, u"lost txt2"_s, u"got txt1 from 2"_s, u"up txt1"_s} << 1;
-        QTest::newRow("press on a value") << 1 << u"value 3"_s << none
-                                          << QStringList{u"validate txt1"_s, u"lost txt1"_s, u"got txt3 from 1"_s} << 3;
+                                   << QStringList{u"validate txt2"_s, u"lost txt2"_s, u"got txt1 from 2"_s,
+                                                  u"up txt1"_s}
+                                   << 1;
+        QTest::newRow("press on a value")
+            << 1 << u"value 3"_s << none << QStringList{u"validate txt1"_s, u"lost txt1"_s, u"got txt3 from 1"_s} << 3;
         QTest::newRow("press on a label") << 1 << u"label 2"_s << none << onward << 2;
         QTest::newRow("press, refused") << 1 << u"value 2"_s << u"validate"_s << QStringList{u"validate txt1"_s} << 1;
         QTest::newRow("press on the row itself") << 2 << u"label 2"_s << none << QStringList() << 2;
         QTest::newRow("Enter") << 1 << u"Enter"_s << none
                                << QStringList{u"enter txt1"_s, u"lost txt1"_s, u"got txt2 from 2"_s, u"up txt2"_s} << 2;
-        QTest::newRow("Enter, refused") << 1 << u"Enter"_s << u"enter"_s << QStringList{u"enter txt1"_s, u"up txt1"_s} << 1;
+        QTest::newRow("Enter, refused") << 1 << u"Enter"_s << u"enter"_s << QStringList{u"enter txt1"_s, u"up txt1"_s}
+                                        << 1;
         QTest::newRow("Enter on the last row") << 4 << u"Enter"_s << none << QStringList{u"enter cboState"_s} << 4;
-        QTest::newRow("Tab on the last row") << 4 << u"Tab"_s << none
-                                             << QStringList{u"validate cboState"_s, u"lost cboState"_s} << 4;
-        QTest::newRow("Shift+Tab on the first row") << 1 << u"Backtab"_s << none
-                                                    << QStringList{u"validate txt1"_s, u"lost txt1"_s, u"up txt1"_s} << 1;
+        QTest::newRow("Tab on the last row")
+            << 4 << u"Tab"_s << none << QStringList{u"validate cboState"_s, u"lost cboState"_s} << 4;
+        QTest::newRow("Shift+Tab on the first row")
+            << 1 << u"Backtab"_s << none << QStringList{u"validate txt1"_s, u"lost txt1"_s, u"up txt1"_s} << 1;
         QTest::newRow("a key") << 1 << u"a"_s << none << QStringList{u"press txt1"_s, u"up txt1"_s} << 1;
     }
 

@@ -21,7 +21,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto NotSaved = "Contact not Saved"_L1;
-constexpr auto SameName = "I did not save this contact because a contact with the\r\nsame name already exists in First home."_L1;
+constexpr auto SameName =
+    "I did not save this contact because a contact with the\r\nsame name already exists in First home."_L1;
 
 /// A desk with an agency on it: the subcategory "First home" of "Buyers" chosen in the tree, with two contacts.
 class Desk
@@ -47,12 +48,14 @@ public:
 
     static void Add(const QString& sub, const QString& first, const QString& mi, const QString& last)
     {
-        FreshDatabase::Execute(u"Insert into Contacts (CategoryID,SubCategoryID,FirstName,LastName,MI,MailState,HomePhone) Values (1,%1,'%2','%4','%3',10,'2155550101')"_s
-                                   .arg(sub, first, mi, last));
+        FreshDatabase::Execute(
+            u"Insert into Contacts (CategoryID,SubCategoryID,FirstName,LastName,MI,MailState,HomePhone) Values (1,%1,'%2','%4','%3',10,'2155550101')"_s
+                .arg(sub, first, mi, last));
     }
     static QStringList Names(const QString& where = u"ID>0"_s)
     {
-        return FreshDatabase::Rows(u"Select ID,FirstName,MI,LastName from Contacts Where "_s + where + u" order by ID"_s);
+        return FreshDatabase::Rows(u"Select ID,FirstName,MI,LastName from Contacts Where "_s + where +
+                                   u" order by ID"_s);
     }
 };
 
@@ -121,9 +124,10 @@ private Q_SLOTS:
     {
         Desk desk;
         Editor editor(EditMode::NewContact);
-        const QStringList typed{u"carol"_s, u"x"_s, u"o'neil"_s, u"1 main st"_s, u"apt 2"_s, u"new haven"_s, u"ct"_s,
-                                u"06510"_s, u"1234"_s, u"ms."_s, u"dan"_s, u"a friend"_s, u"acme"_s, u"c@d.org"_s,
-                                u"2035550101"_s, u"2035550102"_s, u"17"_s, u"2035550103"_s, u"0123456789"_s};
+        const QStringList typed{u"carol"_s,      u"x"_s,        u"o'neil"_s,     u"1 main st"_s, u"apt 2"_s,
+                                u"new haven"_s,  u"ct"_s,       u"06510"_s,      u"1234"_s,      u"ms."_s,
+                                u"dan"_s,        u"a friend"_s, u"acme"_s,       u"c@d.org"_s,   u"2035550101"_s,
+                                u"2035550102"_s, u"17"_s,       u"2035550103"_s, u"0123456789"_s};
         for (const QString& text : typed) {
             editor.Type(text);
             editor.Key(Qt::Key_Return);
@@ -132,9 +136,10 @@ private Q_SLOTS:
         editor.Click(2);
         QVERIFY(editor.Form().IsUnloaded());
         QCOMPARE(desk.User.LastStatus(), u"Saved"_s);
-        QCOMPARE(FreshDatabase::Rows(u"Select CategoryID,SubCategoryID,FirstName,MI,LastName,MailAddr1,MailAddr2,MailCity,MailState,"
-                                     "MailZip,MailZip4,Salutation,Spouse,ReferredBy,Company,Email,HomePhone,WorkPhone,Ext,Cell,Fax "
-                                     "from Contacts Where ID=3"_s),
+        QCOMPARE(FreshDatabase::Rows(
+                     u"Select CategoryID,SubCategoryID,FirstName,MI,LastName,MailAddr1,MailAddr2,MailCity,MailState,"
+                     "MailZip,MailZip4,Salutation,Spouse,ReferredBy,Company,Email,HomePhone,WorkPhone,Ext,Cell,Fax "
+                     "from Contacts Where ID=3"_s),
                  QStringList{u"1|1|Carol|X|O'neil|1 main st|Apt 2|New haven|7|06510|1234|Ms.|Dan|A friend|Acme|C@d.org|"
                              "(203) 555-0101|(203) 555-0102|17|(203) 555-0103|(012) 345-6789"_s});
         QCOMPARE(ContactAt(3), curContact);
@@ -181,8 +186,9 @@ private Q_SLOTS:
         Desk desk;
         gFocusField = u"Fax"_s;
         Editor editor(EditMode::ModifyContact, 1);
-        const QStringList forms{u"(2"_s,       u"(21"_s,       u"(215) "_s,      u"(215) 5"_s,       u"(215) 55"_s,
-                                u"(215) 555"_s, u"(215) 555-0"_s, u"(215) 555-01"_s, u"(215) 555-010"_s, u"(215) 555-0101"_s};
+        const QStringList forms{
+            u"(2"_s,        u"(21"_s,         u"(215) "_s,       u"(215) 5"_s,       u"(215) 55"_s,
+            u"(215) 555"_s, u"(215) 555-0"_s, u"(215) 555-01"_s, u"(215) 555-010"_s, u"(215) 555-0101"_s};
         const QString digits = u"2155550101"_s;
         for (int i = 0; i < digits.size(); ++i) {
             editor.Type(digits.at(i));
@@ -294,7 +300,8 @@ private Q_SLOTS:
         row("New, other subcategory", EditMode::NewContact, 2, {u"Anna"_s, u"Q"_s, u"Smith"_s}, false);
         row("Modify, unchanged", EditMode::ModifyContact, 1, {u"Anna"_s, u"Q"_s, u"Smith"_s}, false);
         row("Modify, another's name", EditMode::ModifyContact, 1, {u"Bob"_s, QString(), u"jones"_s}, true);
-        row("Modify, the tree on another subcategory", EditMode::ModifyContact, 2, {u"Bob"_s, QString(), u"Jones"_s}, false);
+        row("Modify, the tree on another subcategory", EditMode::ModifyContact, 2, {u"Bob"_s, QString(), u"Jones"_s},
+            false);
     }
 
     void a_duplicate_is_refused()
@@ -349,7 +356,8 @@ private Q_SLOTS:
         Editor editor(EditMode::NewContact, 1);
         editor.Type(u"Carl"_s);
         editor.Click(2);
-        QCOMPARE(list.Log, (QStringList{u"AddRow"_s, u"UnSelectAll"_s, u"SelectLastRow"_s, u"UpdateContactGridCols"_s}));
+        QCOMPARE(list.Log,
+                 (QStringList{u"AddRow"_s, u"UnSelectAll"_s, u"SelectLastRow"_s, u"UpdateContactGridCols"_s}));
         QCOMPARE(list.Data, std::vector<Long>{3});
     }
 
@@ -383,7 +391,8 @@ private Q_SLOTS:
         for (int row = 1; row <= 19; ++row)
             QCOMPARE(editor.Sheet().Value(row), QString());
         if (withList)
-            QCOMPARE(list->Log, (QStringList{u"UpdateContactGridCols"_s, u"UnSelectAll"_s, u"AddRow"_s, u"SelectLastRow"_s}));
+            QCOMPARE(list->Log,
+                     (QStringList{u"UpdateContactGridCols"_s, u"UnSelectAll"_s, u"AddRow"_s, u"SelectLastRow"_s}));
 
         editor.Type(u"zoe"_s);
         editor.Click(2);
@@ -449,11 +458,13 @@ private Q_SLOTS:
         editor.Type(u"o'b@c"_s);
         editor.Key(Qt::Key_S, Qt::AltModifier);
         QTRY_VERIFY(editor.Form().IsUnloaded());
-        QCOMPARE(desk.Database.TakeStatements(),
-                 QStringList{u"Update Contacts set CategoryID=1,SubCategoryID=1,FirstName='Bob',LastName='Jones',MI='',"
-                             "FormattedName='Bob Jones',Salutation='',MailAddr1='',MailAddr2='',MailCity='',MailState=10,MailZip='',"
-                             "MailZip4='',Company='',WorkPhone='',Ext='',HomePhone='2155550101',Cell='',Fax='',Email='O''b@c',"
-                             "ReferredBy='',Notes='',Spouse='', DefaultProperty=0 Where ID=2"_s});
+        QCOMPARE(
+            desk.Database.TakeStatements(),
+            QStringList{
+                u"Update Contacts set CategoryID=1,SubCategoryID=1,FirstName='Bob',LastName='Jones',MI='',"
+                "FormattedName='Bob Jones',Salutation='',MailAddr1='',MailAddr2='',MailCity='',MailState=10,MailZip='',"
+                "MailZip4='',Company='',WorkPhone='',Ext='',HomePhone='2155550101',Cell='',Fax='',Email='O''b@c',"
+                "ReferredBy='',Notes='',Spouse='', DefaultProperty=0 Where ID=2"_s});
         QCOMPARE(found.Redrawn, std::vector<Long>{2});
     }
 
@@ -471,7 +482,8 @@ private Q_SLOTS:
             editor.Click(3);
         };
         const QString report = u"Class Contact AddToDB Error #-2147217900"_s;
-        const QString words = u"[Microsoft][ODBC Microsoft Access Driver] Syntax error in string in query expression '''."_s;
+        const QString words =
+            u"[Microsoft][ODBC Microsoft Access Driver] Syntax error in string in query expression '''."_s;
         desk.User.Expect(report, words);
         save(u"carl"_s);
         QCOMPARE(Desk::Names(u"ID>2"_s), QStringList{u"3|Carl||"_s});

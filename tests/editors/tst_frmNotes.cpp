@@ -28,7 +28,8 @@ public:
     explicit Desk(const QString& notes = {})
     {
         Clock::SetSource([] { return QDateTime({2026, 11, 22}, {9, 0}); });
-        FreshDatabase::Execute(u"Insert into Contacts (FirstName,LastName,MI,MailState) Values ('Anna','Smith','',0)"_s);
+        FreshDatabase::Execute(
+            u"Insert into Contacts (FirstName,LastName,MI,MailState) Values ('Anna','Smith','',0)"_s);
         FreshDatabase::Execute(u"Insert into PropDetail (ContactID,MLS,Addr1) Values (1,'','5 Elm St')"_s);
         curContact = std::make_shared<Contact>();
         curContact->RecID = 1;
@@ -102,8 +103,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("stored");
         QTest::newRow("lines") << u"one\r\ntwo\r\n\r\n"_s;
         QTest::newRow("breaks of other hands") << u"one\ntwo\rthree\r\n"_s;
-        QTest::newRow("odd characters")
-            << QString(u"hard\u00A0blank\ttab \u2028 "_s + QChar(0xD800) + QChar(0xFDD0) + QChar(0xFFFC) + u"'quoted'"_s);
+        QTest::newRow("odd characters") << QString(u"hard\u00A0blank\ttab \u2028 "_s + QChar(0xD800) + QChar(0xFDD0) +
+                                                   QChar(0xFFFC) + u"'quoted'"_s);
         QTest::newRow("long") << u"A long line of words. "_s.repeated(2000);
     }
 
@@ -138,8 +139,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("status");
         QTest::addColumn<bool>("gone");
         QTest::addColumn<QString>("stored");
-        const auto row = [](const char* what, const QString& change, const QString& way, int answer, const QString& status,
-                            bool gone, const QString& stored) {
+        const auto row = [](const char* what, const QString& change, const QString& way, int answer,
+                            const QString& status, bool gone, const QString& stored) {
             QTest::newRow(what) << change << way << answer << status << gone << stored;
         };
         const QString saved = u"Notes Have Been Saved"_s;
