@@ -7,9 +7,7 @@
 #include "ui/widgets/Theme.h"
 
 #include <limits>
-#include <QAbstractItemView>
 #include <QComboBox>
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -97,8 +95,6 @@ void SheetEditor::AddControl(int row)
     if (rule.Control.startsWith("cbo"_L1)) {
         auto* list = new QComboBox(m_grid->viewport());
         list->addItems(ListEntries(rule.List));
-        // The popup is a window of its own, in the colours of the others.
-        list->view()->parentWidget()->setPalette(QGuiApplication::palette());
         control = list;
     } else {
         auto* field = new QLineEdit(m_grid->viewport());
@@ -118,11 +114,20 @@ void SheetEditor::AddControl(int row)
     m_controls.push_back(control);
 }
 
+int SheetEditor::RowHeight() const
+{
+    m_grid->ensurePolished();
+    int height = m_grid->fontMetrics().height();
+    for (QWidget* control : m_controls) {
+        control->ensurePolished();
+        height = std::max(height, control->sizeHint().height());
+    }
+    return height + Air;
+}
+
 void SheetEditor::FitRows()
 {
-    int height = m_grid->fontMetrics().height() + 6;
-    for (const QWidget* control : m_controls)
-        height = std::max(height, control->sizeHint().height() + Air);
+    const int height = RowHeight();
     if (m_grid->verticalHeader()->defaultSectionSize() != height)
         m_grid->verticalHeader()->setDefaultSectionSize(height);
     QFont bold = m_grid->font();
@@ -137,13 +142,12 @@ void SheetEditor::FitRows()
 QSize SheetEditor::sizeHint() const
 {
     const int frame = 2 * m_grid->frameWidth();
-    return {m_grid->columnWidth(LabelColumn - 1) + ValueWidth + frame,
-            m_grid->verticalHeader()->defaultSectionSize() * Rows() + frame};
+    return {m_grid->columnWidth(LabelColumn - 1) + ValueWidth + frame, RowHeight() * Rows() + frame};
 }
 
 QSize SheetEditor::minimumSizeHint() const
 {
-    return {LabelWidth * 2, m_grid->verticalHeader()->defaultSectionSize() * FewestRows};
+    return {LabelWidth * 2, RowHeight() * FewestRows};
 }
 
 // Rows, values, controls.
@@ -461,6 +465,7 @@ void SheetEditor::Edited(int row, const QString& now)
 void SheetEditor::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
+    FitRows();
     if (m_row == 0)
         txtFirst_GotFocus();
 }

@@ -85,6 +85,7 @@ private:
     void AddGrid();
     void AddControl(int row);
     QWidget* AddSentinel(const QString& name);
+    [[nodiscard]] int RowHeight() const;
     void FitRows();
     [[nodiscard]] const SheetRow& At(int row) const { return m_rows.at(static_cast<size_t>(row) - 1); }
     [[nodiscard]] QLineEdit* LineEdit(int row) const;

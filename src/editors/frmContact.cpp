@@ -44,6 +44,8 @@ frmContact::frmContact() : Form(u"frmContact"_s)
     layout->addWidget(m_sheet, 1);
     LoadBitMaps();
     Form_Load();
+    // All rows at once where the screen has the room; CenterForm takes away what it has not.
+    resize(sizeHint());
     CenterForm(*this);
 }
 

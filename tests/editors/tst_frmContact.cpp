@@ -9,11 +9,13 @@
 #include "support/FreshDatabase.h"
 #include "support/ScriptedUser.h"
 #include "support/Windows.h"
+#include "ui/widgets/Grid.h"
 
 #include <QClipboard>
 #include <QComboBox>
 #include <QGuiApplication>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -118,6 +120,7 @@ private Q_SLOTS:
         QCOMPARE(editor.Sheet().Value(1), u"Anna"_s);
         QCOMPARE(editor.Sheet().Value(7), u"FL"_s);
         QCOMPARE(editor.Focus(), u"txtFirstName"_s);
+        QVERIFY(!Control<Grid>(editor.Form(), u"Grid2"_s).verticalScrollBar()->isVisible());
     }
 
     void Enter_walks_down_the_sheet_and_all_is_saved()
