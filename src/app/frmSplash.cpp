@@ -11,11 +11,11 @@
 #include "ui/widgets/Pictures.h"
 #include "ui/widgets/UserWindows.h"
 
+#include <cstdlib>
 #include <QCoreApplication>
 #include <QLabel>
 #include <QProgressBar>
 #include <QVBoxLayout>
-#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
@@ -55,7 +55,7 @@ void frmSplash::BuildWindow()
     m_bar->setRange(0, 100);
     m_bar->setTextVisible(false);
     layout->addWidget(m_bar);
-    setFixedSize(380, 300);
+    setFixedSize(layout->sizeHint().expandedTo(QSize(380, 300)));
 }
 
 void frmSplash::Form_Activate()
@@ -90,7 +90,8 @@ void frmSplash::OpenDatabase()
 {
     if (gConn.State() == ObjectState::Open)
         return;
-    gConn.Open(u"Driver={Microsoft Access Driver (*.mdb)};Dbq="_s + gAppPath + u"\\Data\\Contacts.mdb;Password=kostrevy48"_s);
+    gConn.Open(u"Driver={Microsoft Access Driver (*.mdb)};Dbq="_s + gAppPath +
+               u"\\Data\\Contacts.mdb;Password=kostrevy48"_s);
 }
 
 void frmSplash::EndWherePrevInstance()
