@@ -3,6 +3,7 @@
 #include "editors/Editors.h"
 #include "model/DeleteContacts.h"
 #include "model/Openers.h"
+#include "model/SelectedSet.h"
 #include "organise/CategoryTree.h"
 #include "organise/frmList.h"
 #include "ui/frame/Menus.h"
@@ -34,6 +35,7 @@ void Composition::PlugOpeners()
 void Composition::PlugSelectedMenu()
 {
     Menus& menus = m_main.MainMenus();
+    menus.Plug(u"mnuUnselectAll"_s, &m_main, [] { UnselectAll(); });
     menus.Plug(u"mnuDeleteSelectedContacts"_s, &m_main, [] { DeleteContacts(DeleteMode::Selected); });
     menus.PlugOpener(u"mnuManageAlerts"_s, &m_main, gOpeners.ManageAlerts);
     menus.PlugOpener(u"mnuSetNewAlert"_s, &m_main, gOpeners.SetNewAlert);

@@ -28,7 +28,7 @@ public:
     void Close();
     [[nodiscard]] ObjectState State() const { return m_engine ? ObjectState::Open : ObjectState::Closed; }
 
-    /// Runs one Insert, Update or Delete. When it returns, the change is safe on the disk. Raises 3704 where the connection is
+    /// Runs one Insert, Update or Delete. When it returns, the change is safe on the disk. Raises 3709 where the connection is
     /// closed, and the engine's errors.
     void Execute(const QString& statement);
 
