@@ -90,6 +90,7 @@ void ReadAlerts()
 void LoadContacts(const std::function<void(int percent)>& progress)
 {
     Trap(u"LoadContacts Error #"_s, Icon::Information, [&] {
+        const Connection::Reading reading(gConn);
         Recordset rows;
         rows.CursorLocation = CursorLocation::UseClient;
         rows.LockType = LockType::Pessimistic;
