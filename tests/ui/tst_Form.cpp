@@ -1,12 +1,12 @@
 #include "ui/widgets/Form.h"
 #include "ui/widgets/Forms.h"
+#include "ui/widgets/MessageWindow.h"
 #include "ui/widgets/ResizeScaler.h"
 
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
@@ -136,9 +136,9 @@ void tst_Form::a_message_box_does_not_activate()
     auto* a = new Window(u"frmA"_s);
     a->Show();
     QTRY_COMPARE(happened.size(), 1);
-    QMessageBox box(QMessageBox::Information, u"Title"_s, u"Text"_s);
+    MessageWindow box(u"Text"_s, Buttons::Ok, Icon::Information, u"Title"_s);
     QTimer::singleShot(20, &box, &QMessageBox::accept);
-    box.exec();
+    QCOMPARE(box.Ask(a), Answer::Ok);
     QTest::qWait(20);
     QCOMPARE(happened.size(), 1);
 }

@@ -1,6 +1,5 @@
 #include "ui/widgets/Grid.h"
 
-#include "core/Dates.h"
 #include "core/RunTimeError.h"
 #include "ui/widgets/GridDelegate.h"
 #include "ui/widgets/GridFit.h"
@@ -15,7 +14,6 @@
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QPointer>
 #include <utility>
 
@@ -23,7 +21,6 @@ namespace {
 
 constexpr int CellMargin = 12;
 constexpr int HeaderMargin = 16;
-constexpr int BackgroundWash = 205; // of 255: how much of the palette's base lies over the picture
 
 } // namespace
 
@@ -475,46 +472,22 @@ void Grid::SetHeaderVisible(bool visible)
 
 void Grid::SetBackgroundPicture(const QString& path)
 {
-    m_background = path.isEmpty() ? QPixmap() : QPixmap(path);
-    m_backgroundScaled = {};
+    m_background.Load(path);
     viewport()->update();
-}
-
-void Grid::PaintBackground()
-{
-    const qreal ratio = viewport()->devicePixelRatioF();
-    const QSize size = viewport()->size() * ratio;
-    if (m_backgroundScaled.size() != size) {
-        const QPixmap covering = m_background.scaled(size, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
-        QRect middle(QPoint(), size);
-        middle.moveCenter(covering.rect().center());
-        m_backgroundScaled = covering.copy(middle);
-        m_backgroundScaled.setDevicePixelRatio(ratio);
-    }
-    QPainter painter(viewport());
-    painter.drawPixmap(0, 0, m_backgroundScaled);
-    QColor wash = palette().color(QPalette::Base);
-    wash.setAlpha(BackgroundWash);
-    painter.fillRect(viewport()->rect(), wash);
 }
 
 void Grid::paintEvent(QPaintEvent* event)
 {
-    if (!m_background.isNull())
-        PaintBackground();
+    m_background.Paint(*viewport());
     QTableView::paintEvent(event);
-    if (!hasFocus())
-        return;
-    QPainter painter(viewport());
-    painter.setPen(palette().color(QPalette::Active, QPalette::Highlight));
-    painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
 }
 
 void Grid::scrollContentsBy(int dx, int dy)
 {
     QTableView::scrollContentsBy(dx, dy);
-    // The picture and the focus frame stand still while the rows move over them.
-    viewport()->update();
+    // The picture stands still while the rows move over it.
+    if (m_background.IsShown())
+        viewport()->update();
 }
 
 void Grid::changeEvent(QEvent* event)
@@ -542,13 +515,6 @@ void Grid::focusInEvent(QFocusEvent* event)
     // Coming into a list must not choose a row.
     if (!hadCurrent && currentIndex().isValid())
         m_selection->clearCurrentIndex();
-    viewport()->update();
-}
-
-void Grid::focusOutEvent(QFocusEvent* event)
-{
-    QTableView::focusOutEvent(event);
-    viewport()->update();
 }
 
 void Grid::keyPressEvent(QKeyEvent* event)
@@ -685,40 +651,4 @@ void Grid::HighlightLate()
         return;
     const ByCode byCode(*this);
     m_selection->select(currentIndex(), QItemSelectionModel::Select | QItemSelectionModel::Rows);
-}
-
-// The procedures that all lists share.
-
-int AddGridRow(Grid& grid, const QString& text, Long itemData)
-{
-    const int row = grid.AddRow(itemData);
-    grid.SetCellText(row, 1, text);
-    return row;
-}
-
-bool AnySelectedCol(int row, const Grid& grid)
-{
-    for (int column = 1; column <= grid.Columns(); ++column)
-        if (grid.CellSelected(row, column))
-            return true;
-    return false;
-}
-
-void SortGrid(Grid& grid, int column)
-{
-    SortType type = grid.Column(column).Sort;
-    int row = 1;
-    while (row < grid.Rows() && grid.CellText(row, column).isEmpty())
-        ++row;
-    if (row <= grid.Rows() && IsDate(grid.CellText(row, column)))
-        type = SortType::Date;
-    const int direction = grid.SortOrder(1) == 2 ? 1 : 2;
-    grid.SetSortOrder(1, direction);
-    grid.Sort(column, type, direction);
-    for (row = 1; row <= grid.Rows(); ++row) {
-        if (!grid.RowVisible(row))
-            continue;
-        grid.SetSelectedRow(row);
-        break;
-    }
 }

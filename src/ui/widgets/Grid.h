@@ -1,10 +1,10 @@
 #pragma once
 
 #include "core/Types.h"
+#include "ui/widgets/GridBackground.h"
 
 #include <memory>
 #include <QColor>
-#include <QPixmap>
 #include <QString>
 #include <QTableView>
 #include <vector>
@@ -144,7 +144,6 @@ Q_SIGNALS:
 protected:
     void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyboardSearch(const QString& text) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -170,14 +169,12 @@ private:
     [[nodiscard]] int Neighbour(int row, Gone&& gone) const;
     void MoveTo(int row, bool above);
     void HighlightLate();
-    void PaintBackground();
     void FitRowHeight();
 
     GridModel* m_model;
     GridSelection* m_selection;
     std::unique_ptr<GridFit> m_fit;
-    QPixmap m_background;
-    QPixmap m_backgroundScaled;
+    GridBackground m_background;
     int m_personActs = 0;
     int m_codeActs = 0;
     bool m_personChanged = false;

@@ -66,7 +66,8 @@ void MessageWindow::ScrollLongText(const QString& text)
     constexpr int Width = 520;
     const QSize room = screen()->availableSize();
     const int tallest = room.height() * 6 / 10;
-    // Words alone break a label's lines; a word that is wider than the box (a path, a list of numbers) needs the editor too.
+    // Words alone break a label's lines; a word that is wider than the box (a path, a list of numbers) needs the editor
+    // too.
     const QRect byWords = fontMetrics().boundingRect(QRect(0, 0, Width, 1 << 20), Qt::TextWordWrap, text);
     auto* label = findChild<QLabel*>(u"qt_msgbox_label"_s);
     auto* grid = qobject_cast<QGridLayout*>(layout());

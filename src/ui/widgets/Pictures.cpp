@@ -22,7 +22,8 @@ enum class Shade
 {
     Plain,
     High,
-    Low
+    Low,
+    OnAccent ///< for a highlighted row: its lines in the colour of the text there
 };
 
 struct Drawing
@@ -65,13 +66,16 @@ bool IsDark()
     return QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
 }
 
-QImage Render(const QString& file, QSize size)
+QImage Render(const QString& file, Shade how, QSize size)
 {
     QFile source(u":/icons/"_s + file);
     QByteArray drawing;
     if (source.open(QIODevice::ReadOnly))
         drawing = source.readAll();
-    if (IsDark())
+    if (how == Shade::OnAccent) {
+        const QColor line = QGuiApplication::palette().color(QPalette::Active, QPalette::HighlightedText);
+        drawing.replace("#2F6DB5", line.name().toLatin1()).replace("#76839A", line.name().toLatin1());
+    } else if (IsDark())
         drawing.replace("#2F6DB5", "#6FA8E8").replace("#76839A", "#A9B4C6");
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
@@ -91,9 +95,9 @@ void Tint(QImage& image, const QColor& color)
 QPixmap Draw(const Drawing& drawing, QSize size, qreal ratio)
 {
     const QSize pixels = size * ratio;
-    QImage picture = Render(drawing.File, pixels);
-    if (drawing.How != Shade::Plain) {
-        Tint(picture, drawing.How == Shade::High ? QColor(255, 255, 255, 50) : QColor(0, 0, 0, 90));
+    QImage picture = Render(drawing.File, drawing.How, pixels);
+    if (drawing.How == Shade::High || drawing.How == Shade::Low) {
+        Tint(picture, drawing.How == Shade::High ? QColor(255, 255, 255, 50) : QColor(0, 0, 0, IsDark() ? 30 : 90));
         QImage whole(pixels, QImage::Format_ARGB32_Premultiplied);
         whole.fill(Qt::transparent);
         QPainter painter(&whole);
@@ -110,6 +114,27 @@ QPixmap Draw(const Drawing& drawing, QSize size, qreal ratio)
     }
     QPixmap pixmap = QPixmap::fromImage(picture);
     pixmap.setDevicePixelRatio(ratio);
+    return pixmap;
+}
+
+/// The drawing in this size, from the cache where it was drawn before.
+QPixmap Cached(const QString& name, const Drawing& drawing, QSize size, qreal ratio)
+{
+    if (drawing.File.isEmpty()) {
+        qWarning("No picture is called \"%s\".", qUtf8Printable(name));
+        return {};
+    }
+    const QString key = u"%1/%2/%3x%4@%5/%6"_s.arg(drawing.File)
+                            .arg(static_cast<int>(drawing.How))
+                            .arg(size.width())
+                            .arg(size.height())
+                            .arg(ratio)
+                            .arg(QGuiApplication::palette().color(QPalette::Window).rgba());
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        pixmap = Draw(drawing, size, ratio);
+        QPixmapCache::insert(key, pixmap);
+    }
     return pixmap;
 }
 
@@ -131,7 +156,10 @@ public:
     /// `size` is in pixels of the device here.
     QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State, qreal scale) override
     {
-        const QPixmap plain = Pictures::Pixmap(m_name, size / scale, scale);
+        Drawing drawing = Find(m_name);
+        if (mode == QIcon::Selected && drawing.How == Shade::Plain)
+            drawing.How = Shade::OnAccent;
+        const QPixmap plain = Cached(m_name, drawing, size / scale, scale);
         if (mode != QIcon::Disabled)
             return plain;
         QStyleOption option;
@@ -166,20 +194,5 @@ QIcon Pictures::Icon(const QString& name)
 
 QPixmap Pictures::Pixmap(const QString& name, QSize size, qreal ratio)
 {
-    const QString key = u"%1/%2x%3@%4/%5"_s.arg(name)
-                            .arg(size.width())
-                            .arg(size.height())
-                            .arg(ratio)
-                            .arg(QGuiApplication::palette().color(QPalette::Window).rgba());
-    QPixmap pixmap;
-    if (QPixmapCache::find(key, &pixmap))
-        return pixmap;
-    const Drawing drawing = Find(name);
-    if (drawing.File.isEmpty()) {
-        qWarning("No picture is called \"%s\".", qUtf8Printable(name));
-        return {};
-    }
-    pixmap = Draw(drawing, size, ratio);
-    QPixmapCache::insert(key, pixmap);
-    return pixmap;
+    return Cached(name, Find(name), size, ratio);
 }

@@ -11,6 +11,32 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The sign of a message box: a letter on a disc.
+QIcon Sign(const QString& letter, const QColor& color)
+{
+    QIcon icon;
+    for (const int size : {32, 48, 64, 128}) {
+        QPixmap pixmap(size, size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        const qreal rim = size / 16.0;
+        const QRectF disc = QRectF(pixmap.rect()).adjusted(rim, rim, -rim, -rim);
+        painter.drawEllipse(disc);
+        QFont font = QApplication::font();
+        font.setPixelSize(size * 5 / 8);
+        font.setBold(true);
+        painter.setFont(font);
+        painter.setPen(qGray(color.rgb()) > 140 ? QColor(0x10151C) : QColor(Qt::white));
+        painter.drawText(disc, Qt::AlignCenter, letter);
+        painter.end();
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
 /// Fusion with our spacing, and with a focus that is never left to guessing.
 class ThemeStyle final : public QProxyStyle
 {
@@ -46,6 +72,20 @@ public:
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
 
+    QIcon standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const override
+    {
+        switch (picture) {
+        case SP_MessageBoxQuestion:
+            return Sign(u"?"_s, QApplication::palette().color(QPalette::Active, QPalette::Highlight));
+        case SP_MessageBoxInformation:
+            return Sign(u"i"_s, QApplication::palette().color(QPalette::Active, QPalette::Highlight));
+        case SP_MessageBoxCritical:
+            return Sign(u"!"_s, QColor(0xC62828));
+        default:
+            return QProxyStyle::standardIcon(picture, option, widget);
+        }
+    }
+
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override
     {
@@ -73,8 +113,8 @@ const Shades& LightShades()
 
 const Shades& DarkShades()
 {
-    static const Shades shades{0x6FA8E8, 0x10151C, 0x23272E, 0x1B1F25, 0x21262D,
-                               0xE6E9EF, 0x323842, 0x8B95A5, 0x38506D, 0x2D333C};
+    static const Shades shades{0x6FA8E8, 0x10151C, 0x2A2F37, 0x1C2026, 0x21262D,
+                               0xE6E9EF, 0x3A414C, 0x939DAD, 0x38506D, 0x2D333C};
     return shades;
 }
 

@@ -1,0 +1,37 @@
+// The procedures that all lists share; declared at the end of Grid.h.
+#include "core/Dates.h"
+#include "ui/widgets/Grid.h"
+
+int AddGridRow(Grid& grid, const QString& text, Long itemData)
+{
+    const int row = grid.AddRow(itemData);
+    grid.SetCellText(row, 1, text);
+    return row;
+}
+
+bool AnySelectedCol(int row, const Grid& grid)
+{
+    for (int column = 1; column <= grid.Columns(); ++column)
+        if (grid.CellSelected(row, column))
+            return true;
+    return false;
+}
+
+void SortGrid(Grid& grid, int column)
+{
+    SortType type = grid.Column(column).Sort;
+    int row = 1;
+    while (row < grid.Rows() && grid.CellText(row, column).isEmpty())
+        ++row;
+    if (row <= grid.Rows() && IsDate(grid.CellText(row, column)))
+        type = SortType::Date;
+    const int direction = grid.SortOrder(1) == 2 ? 1 : 2;
+    grid.SetSortOrder(1, direction);
+    grid.Sort(column, type, direction);
+    for (row = 1; row <= grid.Rows(); ++row) {
+        if (!grid.RowVisible(row))
+            continue;
+        grid.SetSelectedRow(row);
+        break;
+    }
+}
