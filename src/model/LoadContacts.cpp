@@ -99,6 +99,7 @@ void ReadAlerts()
 void LoadContacts(const std::function<void(int percent)>& progress, const std::function<void()>& doEvents)
 {
     Trap(u"LoadContacts Error #"_s, Icon::Information, [&] {
+        const Connection::Reading reading(gConn);
         Recordset rows;
         rows.CursorLocation = CursorLocation::UseClient;
         rows.LockType = LockType::Pessimistic;

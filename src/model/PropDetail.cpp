@@ -18,7 +18,7 @@ namespace {
 
 QString FlagText(const Value& code)
 {
-    return SharedText(BitToYesNo(code.LongOrZero()).value_or(QString()));
+    return BitToYesNo(code.LongOrZero()).value_or(QString());
 }
 
 /// The code of a flag as the Insert writes it; a text that is no flag gives an empty literal.
