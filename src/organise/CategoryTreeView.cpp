@@ -30,6 +30,12 @@ public:
         return editor;
     }
 
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        constexpr int air = 6;
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, air);
+    }
+
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override
     {
         const auto* line = qobject_cast<QLineEdit*>(editor);

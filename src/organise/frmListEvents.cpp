@@ -85,8 +85,8 @@ void frmList::GridList_SelectionChange()
 {
     Trap(u"frmList GridList_SelectionChange Error #"_s, Icon::Information, [this] {
         const int row = SelectedRow();
-        // A row that New has added has no contact yet.
-        if (row == 0 || m_grid->RowItemData(row) == 0)
+        // A row that New has added has no contact yet. One whose statement was refused has the key 0, and a contact.
+        if (row == 0 || !gContacts.Exists(m_grid->RowItemData(row)))
             return;
         curContact = ContactAt(m_grid->RowItemData(row));
         gEditMode = EditMode::Neutral;
@@ -126,7 +126,7 @@ void frmList::GridList_MouseUp(Qt::MouseButton button, QPoint position)
 void frmList::PopUpMenu(QPoint position)
 {
     const int row = SelectedRow();
-    if (row > 0 && m_grid->RowItemData(row) != 0)
+    if (row > 0 && gContacts.Exists(m_grid->RowItemData(row)))
         curContact = ContactAt(m_grid->RowItemData(row));
     const int column = m_grid->SelectedCol();
     const bool onProperties = column > 0 && m_grid->Column(column).Key == "Prop"_L1;

@@ -1,0 +1,326 @@
+#include "organise/Desk.h"
+
+#include "ui/widgets/Forms.h"
+
+#include <QLineEdit>
+
+using namespace Qt::StringLiterals;
+
+class tst_CategoryTree : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void AClickTellsTheContactsInTheTitle_data();
+    void AClickTellsTheContactsInTheTitle();
+    void TheMenuOffersWhatTheNodeAllows_data();
+    void TheMenuOffersWhatTheNodeAllows();
+    void TheMenuOfAnEmptyTreeOffersANewCategoryOnly();
+    void ARefusedCategoryLeavesAGhostAndASecondOneTheReport();
+    void ANewSubcategoryHangsUnderTheFirstNodeOfThatNumber();
+    void ARename_data();
+    void ARename();
+    void ACategoryMayTakeAnothersName();
+    void ACategoryWithSubcategoriesStays();
+    void TheLastCategoryLeavesTheTitleReady();
+    void ASubcategoryGoesOnlyWithoutContacts();
+    void AMoveKeepsTheCountsAsTheyWere();
+    void AMoveIsRefused_data();
+    void AMoveIsRefused();
+    void ADoubleClickOpensTheListOrANewContact();
+    void OnlyThePersonsClicksChangeTheCurrentNode();
+};
+
+void tst_CategoryTree::AClickTellsTheContactsInTheTitle_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<int>("sub");
+    QTest::newRow("category") << u"C1"_s << u"Mine - 4 contacts in Buyers"_s << 0;
+    QTest::newRow("empty category") << u"C2"_s << u"Mine - no contacts in Sellers"_s << 0;
+    QTest::newRow("several") << u"S1"_s << u"Mine - 3 contacts in First home"_s << 1;
+    QTest::newRow("one") << u"S2"_s << u"Mine - 1 contact in Moving up"_s << 2;
+    QTest::newRow("none") << u"S3"_s << u"Mine - no contacts in Houses"_s << 1;
+}
+
+void tst_CategoryTree::AClickTellsTheContactsInTheTitle()
+{
+    QFETCH(QString, key);
+    QFETCH(int, sub);
+    Desk desk;
+    gSettings.ClientName = u"Mine"_s;
+    desk.Click(key);
+    QTEST(desk.Main->windowTitle(), "title");
+    if (sub > 0)
+        QCOMPARE(curSubIndex, sub);
+    if (key == "S3"_L1)
+        QCOMPARE(curCategoryID, 2);
+}
+
+void tst_CategoryTree::TheMenuOffersWhatTheNodeAllows_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QStringList>("captions");
+    QTest::addColumn<QString>("enabled"); // one letter for each entry
+    QTest::newRow("category") << u"C1"_s
+                              << QStringList{u"New Category"_s, u"New SubCategory Under Buyers"_s, u"Rename Buyers"_s,
+                                             u"Delete Buyers"_s, u"Move"_s, u"View Contacts"_s, u"Contacts"_s}
+                              << u"yyyynnn"_s;
+    QTest::newRow("subcategory") << u"S1"_s
+                                 << QStringList{u"New Category"_s, u"New SubCategory Under Buyers"_s,
+                                                u"Rename First home"_s, u"Delete First home"_s, u"Move First home"_s,
+                                                u"View First home's Contacts"_s, u"New Contact Under First home"_s}
+                                 << u"yyyyyyy"_s;
+    QTest::newRow("empty subcategory") << u"S3"_s
+                                       << QStringList{u"New Category"_s, u"New SubCategory Under Sellers"_s,
+                                                      u"Rename Houses"_s, u"Delete Houses"_s, u"Move Houses"_s,
+                                                      u"View Houses's Contacts"_s, u"New Contact Under Houses"_s}
+                                       << u"yyyyyny"_s;
+}
+
+void tst_CategoryTree::TheMenuOffersWhatTheNodeAllows()
+{
+    QFETCH(QString, key);
+    Desk desk;
+    desk.Click(key, Qt::RightButton);
+    QMenu& menu = desk.Main->MainMenus().Menu(u"mnuCategory"_s);
+    QTRY_VERIFY(menu.isVisible());
+    QStringList captions;
+    QString enabled;
+    for (const QAction* entry : menu.actions()) {
+        captions << entry->text();
+        enabled += entry->isEnabled() ? u'y' : u'n';
+    }
+    menu.close();
+    QTEST(captions, "captions");
+    QTEST(enabled, "enabled");
+}
+
+void tst_CategoryTree::TheMenuOfAnEmptyTreeOffersANewCategoryOnly()
+{
+    Desk desk;
+    desk.View().setCurrentItem(nullptr);
+    for (const auto key : {"C3"_L1, "C2"_L1, "C1"_L1})
+        desk.View().RemoveNode(desk.View().FindKey(QString(key)));
+    QMenu& menu = desk.Main->MainMenus().Menu(u"mnuCategory"_s);
+    QTest::mouseClick(desk.View().viewport(), Qt::LeftButton);
+    QTRY_VERIFY(menu.isVisible());
+    for (const QAction* entry : menu.actions())
+        QCOMPARE(entry->isEnabled(), entry->objectName() == "mnuCatCreate"_L1);
+    menu.close();
+}
+
+void tst_CategoryTree::ARefusedCategoryLeavesAGhostAndASecondOneTheReport()
+{
+    Desk desk;
+    desk.Person.ExpectAskFor(u"New Category Name:"_s, u" BUYERS"_s);
+    desk.Person.Expect(u"New Category has not been Created"_s,
+                       u"I did not create  BUYERS because I found an existing category with the same name."_s);
+    desk.Entry(u"mnuCatCreate"_s).trigger();
+    QCOMPARE(desk.Tree->SelectedKey(), u"C0"_s);
+    QCOMPARE(gCategories.Count(), 4);
+
+    desk.Person.ExpectAskFor(u"New Category Name:"_s, u"Buyers"_s);
+    desk.Person.Expect(u"New Category has not been Created"_s,
+                       u"I did not create Buyers because I found an existing category with the same name."_s);
+    desk.Person.Expect(u"frmMain CreateNewCategory Error #457"_s,
+                       u"This key is already associated with an element of this collection"_s);
+    desk.Entry(u"mnuCatCreate"_s).trigger();
+    QCOMPARE(FreshDatabase::Rows(u"Select ID from Categories"_s).size(), 3);
+}
+
+void tst_CategoryTree::ANewSubcategoryHangsUnderTheFirstNodeOfThatNumber()
+{
+    // Category 3 (Vendors) was added after the subcategory 3 (Houses): the look-up without the letter finds the latter.
+    Desk desk;
+    desk.Click(u"C3"_s);
+    desk.Person.ExpectAskFor(u"New Subcategory Name"_s, u"Roofers"_s);
+    desk.Entry(u"mnuSubCreate"_s).trigger();
+    QCOMPARE(desk.Person.LastStatus(), u"Roofers has been Created"_s);
+    QCOMPARE(desk.Tree->SelectedKey(), u"S4"_s);
+    QCOMPARE(desk.Tree->SelectedParentKey(), u"S3"_s);
+    QCOMPARE(FreshDatabase::Rows(u"Select ParentID from SubCategories Where ID=4"_s), QStringList{u"3"_s});
+    QCOMPARE(CategoryAt(3)->Subs->size(), 1U);
+}
+
+void tst_CategoryTree::ARename_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QString>("status");
+    QTest::addColumn<bool>("refused");
+    QTest::newRow("another name") << u"First house"_s << u"First house"_s << u"Renamed"_s << false;
+    QTest::newRow("an apostrophe") << u"Friend's"_s << u"Friend's"_s << u"Renamed"_s << false;
+    QTest::newRow("a sister's name") << u"MOVING UP"_s << u"First home"_s << u"Rename Cancelled"_s << true;
+    QTest::newRow("nothing") << QString() << u"First home"_s << QString() << false;
+}
+
+void tst_CategoryTree::ARename()
+{
+    QFETCH(QString, typed);
+    QFETCH(QString, label);
+    QFETCH(bool, refused);
+    Desk desk;
+    desk.Click(u"S1"_s);
+    if (refused) {
+        desk.Person.Expect(u"Rename Cancelled"_s, u"I did not rename First home because I found\r\nanother subcategory named "_s +
+                                                      typed + u" in Buyers."_s);
+    }
+    desk.Entry(u"mnuCatRename"_s).trigger();
+    auto* editor = desk.View().findChild<QLineEdit*>();
+    QVERIFY(editor != nullptr);
+    editor->setText(typed);
+    QTest::keyClick(editor, Qt::Key_Return);
+    QTest::qWait(0); // the label takes its text behind the key
+    QCOMPARE(desk.Tree->SelectedText(), label);
+    QTEST(desk.Person.LastStatus(), "status");
+    QCOMPARE(FreshDatabase::Rows(u"Select Description from SubCategories Where ID=1"_s), QStringList{label});
+}
+
+void tst_CategoryTree::ACategoryMayTakeAnothersName()
+{
+    Desk desk;
+    desk.Click(u"C1"_s);
+    QVERIFY(desk.View().AfterLabelEdit(u"Sellers"_s));
+    QCOMPARE(desk.Database.TakeStatements(), QStringList{u"Update Categories set Description='Sellers' Where ID=1"_s});
+}
+
+void tst_CategoryTree::ACategoryWithSubcategoriesStays()
+{
+    Desk desk;
+    desk.Click(u"C2"_s);
+    desk.Person.Expect(u"Sellers was not Deleted"_s, u"I did not delete Sellers because it has subcategories."_s);
+    QTest::keyClick(&desk.View(), Qt::Key_Delete);
+    QVERIFY(desk.Database.TakeStatements().isEmpty());
+
+    desk.Click(u"C3"_s);
+    desk.Person.Expect(u"Please Confirm Before I Proceed"_s, u"Do you want me to delete the category named Vendors?"_s,
+                       Answer::No);
+    desk.Entry(u"mnuCatDelete"_s).trigger();
+    QCOMPARE(desk.Person.LastStatus(), u"Vendors has not been Deleted"_s);
+    desk.Person.Expect(u"Please Confirm Before I Proceed"_s, u"Do you want me to delete the category named Vendors?"_s,
+                       Answer::Yes);
+    desk.Entry(u"mnuCatDelete"_s).trigger();
+    QCOMPARE(desk.Person.LastStatus(), u"Vendors has been Deleted"_s);
+    QCOMPARE(desk.Tree->SelectedKey(), u"C2"_s); // the last root goes to the one before it
+    QCOMPARE(curCategoryID, 2);
+}
+
+void tst_CategoryTree::TheLastCategoryLeavesTheTitleReady()
+{
+    Desk desk;
+    gSettings.ClientName = u"Mine"_s;
+    for (const Long id : {1, 2})
+        gCategories.Remove(id);
+    desk.View().RemoveNode(desk.View().FindKey(u"C2"_s));
+    desk.View().RemoveNode(desk.View().FindKey(u"C1"_s));
+    desk.Click(u"C3"_s);
+    desk.Person.Expect(u"Please Confirm Before I Proceed"_s, u"Do you want me to delete the category named Vendors?"_s,
+                       Answer::Yes);
+    desk.Entry(u"mnuCatDelete"_s).trigger();
+    QCOMPARE(desk.Tree->NodeCount(), 0);
+    QCOMPARE(desk.Main->windowTitle(), u"Mine  - Ready"_s);
+}
+
+void tst_CategoryTree::ASubcategoryGoesOnlyWithoutContacts()
+{
+    Desk desk;
+    desk.Click(u"S1"_s);
+    desk.Person.Expect(u"Delete Cancelled"_s, u"I did not delete First home because it has contacts."_s);
+    desk.Entry(u"mnuCatDelete"_s).trigger();
+    CategoryAt(1)->Sub(1)->ContactCount = 0;
+    desk.Person.Expect(u"Please Confirm Before I Proceed"_s, u"Do you want me to delete First home?"_s, Answer::Yes);
+    desk.Entry(u"mnuCatDelete"_s).trigger();
+    QCOMPARE(desk.Database.TakeStatements(), QStringList{u"delete from SubCategories Where ID=1"_s});
+    QCOMPARE(desk.Tree->SelectedKey(), u"S2"_s);
+    QCOMPARE(curSubIndex, 1); // the one behind it has moved up
+    QCOMPARE(desk.Person.LastStatus(), u"First home has been Deleted"_s);
+}
+
+void tst_CategoryTree::AMoveKeepsTheCountsAsTheyWere()
+{
+    Desk desk;
+    desk.Click(u"S2"_s);
+    desk.Person.Expect(u"Please Confirm Before I Proceed"_s, u"Do you want me to move Moving up to Vendors?"_s, Answer::Yes);
+    WhenFormOpens chooser(u"frmMove"_s, [](Form& form) {
+        QCOMPARE(form.windowTitle(), u"Do you want me to move Moving up to "_s);
+        auto& tree = Control<QTreeWidget>(form, u"TreeView1"_s);
+        QTRY_COMPARE(tree.topLevelItemCount(), 3);
+        QCOMPARE(tree.topLevelItem(0)->childCount(), 0);
+        tree.setCurrentItem(tree.topLevelItem(2));
+        ClickOn(form, u"cmdButton_2"_s);
+    });
+    desk.Entry(u"mnuSubMove"_s).trigger();
+    QCOMPARE(desk.Person.LastStatus(), u"Moving up has been Moved"_s);
+    QCOMPARE(desk.Tree->SelectedKey(), u"S2"_s);
+    QCOMPARE(desk.Tree->SelectedParentKey(), u"C3"_s);
+    QCOMPARE(CategoryAt(1)->ContactCount, 4);
+    QCOMPARE(CategoryAt(3)->ContactCount, 0);
+    QCOMPARE(ContactAt(4)->CategoryID, 3);
+    QCOMPARE(FreshDatabase::Rows(u"Select CategoryID from Contacts Where ID=4"_s), QStringList{u"3"_s});
+    QCOMPARE(FreshDatabase::Rows(u"Select ParentID from SubCategories Where ID=2"_s), QStringList{u"3"_s});
+}
+
+void tst_CategoryTree::AMoveIsRefused_data()
+{
+    QTest::addColumn<int>("target");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("to where it is") << 0 << u"Move has been Cancelled"_s
+                                    << u"I did not move Moving up\r\nbecause it is already in Buyers."_s;
+    QTest::newRow("to a namesake") << 1 << u"Move Cancelled"_s
+                                   << u"I did not move Moving up\r\nbecause I have found another subcategory with the same name "
+                                      "in Sellers."_s;
+}
+
+void tst_CategoryTree::AMoveIsRefused()
+{
+    QFETCH(int, target);
+    QFETCH(QString, title);
+    QFETCH(QString, text);
+    Desk desk;
+    CategoryAt(2)->Sub(1)->Description = u"moving UP "_s;
+    desk.Click(u"S2"_s);
+    desk.Person.Expect(title, text);
+    WhenFormOpens chooser(u"frmMove"_s, [target](Form& form) {
+        auto& tree = Control<QTreeWidget>(form, u"TreeView1"_s);
+        QTRY_COMPARE(tree.topLevelItemCount(), 3);
+        tree.setCurrentItem(tree.topLevelItem(target));
+        ClickOn(form, u"cmdButton_2"_s);
+    });
+    desk.Entry(u"mnuSubMove"_s).trigger();
+    QCOMPARE(desk.Person.LastStatus(), u"Moving up has not been Moved"_s);
+    QVERIFY(desk.Database.TakeStatements().isEmpty());
+}
+
+void tst_CategoryTree::ADoubleClickOpensTheListOrANewContact()
+{
+    Desk desk;
+    desk.Click(u"C1"_s);
+    desk.Tree->trvCategories_DblClick();
+    QVERIFY(!IsLoaded(u"frmList"_s));
+    desk.OpenList(u"S1"_s);
+    QCOMPARE(desk.EditorCalls, 0);
+    // An empty subcategory opens a new contact, and the list goes first.
+    desk.Click(u"S3"_s);
+    QTest::keyClick(&desk.View(), Qt::Key_Return);
+    QVERIFY(!IsLoaded(u"frmList"_s));
+    QCOMPARE(desk.EditorCalls, 1);
+    QCOMPARE(gEditMode, EditMode::NewContact);
+}
+
+void tst_CategoryTree::OnlyThePersonsClicksChangeTheCurrentNode()
+{
+    Desk desk;
+    desk.Click(u"C2"_s);
+    QVERIFY(desk.Tree->FindInTree(u"S1"_s));
+    QCOMPARE(curCategoryID, 1); // finding a subcategory makes its parent current
+    const QString title = desk.Main->windowTitle();
+    desk.View().setFocus();
+    QTest::keyClick(&desk.View(), Qt::Key_Down);
+    QCOMPARE(curSubIndex, 2);
+    QVERIFY(desk.Main->windowTitle() != title);
+}
+
+QTEST_MAIN(tst_CategoryTree)
+#include "tst_CategoryTree.moc"
