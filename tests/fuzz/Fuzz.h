@@ -3,8 +3,8 @@
 #include "core/adodb/StoredText.h"
 #include "core/RunTimeError.h"
 
-#include <QString>
 #include <optional>
+#include <QString>
 
 /// The text that the fuzzer made; unpaired surrogates occur in it.
 inline QString TextOf(const uint8_t* data, size_t size)
@@ -19,7 +19,8 @@ inline void Demand(bool holds, const char* what)
         qFatal("It does not hold that %s", what);
 }
 
-/// What a call gives, or nothing where it raises a run-time error of one of these numbers; any other error is a finding.
+/// What a call gives, or nothing where it raises a run-time error of one of these numbers; any other error is a
+/// finding.
 template <typename Call, typename... Numbers>
 auto Attempt(Call&& call, Numbers... allowed) -> std::optional<decltype(call())>
 {

@@ -28,7 +28,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const auto again = ParseDate(written);
     Demand(again.has_value(), "a written date can be read");
     const auto partsAgain = PartsOf(*again);
-    Demand(partsAgain->DayNumber == parts->DayNumber && partsAgain->Seconds == parts->Seconds && CStr(*again) == written,
+    Demand(partsAgain->DayNumber == parts->DayNumber && partsAgain->Seconds == parts->Seconds &&
+               CStr(*again) == written,
            "a written date is the same date");
     Demand(CStr(ToDate(ToDateTime(*date))) == written, "the calendar gives the same date back");
     return 0;

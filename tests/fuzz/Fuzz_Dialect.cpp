@@ -9,7 +9,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Whatever stands inside a literal is text: it changes neither the statement around it nor how many literals there are.
+/// Whatever stands inside a literal is text: it changes neither the statement around it nor how many literals there
+/// are.
 void StandsInALiteral(const QString& text)
 {
     const auto around = [](const QString& literal) {

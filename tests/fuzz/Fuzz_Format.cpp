@@ -20,7 +20,8 @@ void KeepsTheValue(const QString& text)
         Attempt([&] { return CCur(text); }, ErrorNumber::TypeMismatch, ErrorNumber::Overflow).value_or(Currency());
     Demand(CCur(Format(amount, u"$###,##0.0000")) == amount, "a masked amount is the same amount");
     if (const auto date = ParseDate(text))
-        Demand(CStr(CDate(Format(*date, u"mm/dd/yyyy hh:NN:SS am/pm"))) == CStr(*date) || PartsOf(*date)->DayNumber == 0,
+        Demand(CStr(CDate(Format(*date, u"mm/dd/yyyy hh:NN:SS am/pm"))) == CStr(*date) ||
+                   PartsOf(*date)->DayNumber == 0,
                "a masked date is the same date");
 }
 

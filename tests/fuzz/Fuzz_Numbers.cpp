@@ -25,14 +25,20 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     const QString text = TextOf(data, size);
     const bool numeric = IsNumeric(text);
-    const auto number = Attempt([&] { return CDbl(text); }, numeric ? ErrorNumber::Overflow : ErrorNumber::TypeMismatch);
+    const auto number =
+        Attempt([&] { return CDbl(text); }, numeric ? ErrorNumber::Overflow : ErrorNumber::TypeMismatch);
     Demand(numeric || !number, "only a number is read as one");
     Demand(!number || std::isfinite(*number), "a number is finite");
-    ReadsTheSameAgain(text, [](const QString& t) { return CDbl(t); }, "a Double is read as it was written");
-    ReadsTheSameAgain(text, [](const QString& t) { return CSng(t); }, "a Single is read as it was written");
-    ReadsTheSameAgain(text, [](const QString& t) { return CLng(t); }, "a Long is read as it was written");
-    ReadsTheSameAgain(text, [](const QString& t) { return CInt(t); }, "an Integer is read as it was written");
-    ReadsTheSameAgain(text, [](const QString& t) { return CCur(t); }, "a Currency is read as it was written");
+    ReadsTheSameAgain(
+        text, [](const QString& t) { return CDbl(t); }, "a Double is read as it was written");
+    ReadsTheSameAgain(
+        text, [](const QString& t) { return CSng(t); }, "a Single is read as it was written");
+    ReadsTheSameAgain(
+        text, [](const QString& t) { return CLng(t); }, "a Long is read as it was written");
+    ReadsTheSameAgain(
+        text, [](const QString& t) { return CInt(t); }, "an Integer is read as it was written");
+    ReadsTheSameAgain(
+        text, [](const QString& t) { return CCur(t); }, "a Currency is read as it was written");
 
     const double loose = Val(text);
     Demand(std::isfinite(loose), "Val gives a finite number");
