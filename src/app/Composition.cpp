@@ -1,5 +1,7 @@
 #include "app/Composition.h"
 
+#include "alerts/AlertPanels.h"
+#include "alerts/ManageAlerts.h"
 #include "editors/Editors.h"
 #include "model/DeleteContacts.h"
 #include "model/Openers.h"
@@ -11,11 +13,12 @@
 
 using namespace Qt::StringLiterals;
 
-Composition::Composition() : m_tree(new CategoryTree(m_main))
+Composition::Composition() : m_tree(new CategoryTree(m_main)), m_alerts(new AlertPanels(m_main))
 {
     // The main window is the last to go, and everything hangs on it: it outlives its own unloading.
     m_main.SetDeleteOnUnload(false);
     m_main.AddContactsPanel(m_tree, 1);
+    m_main.AddContactsPanel(m_alerts, 1);
     PlugOpeners();
     PlugSelectedMenu();
 }
@@ -30,6 +33,12 @@ void Composition::PlugOpeners()
     gOpeners.ContactEditor = [] { ShowContactEditor(); };
     gOpeners.Notes = [] { ShowNotes(); };
     gOpeners.ContactList = [this] { ShowContactList(&m_main); };
+    gOpeners.Alerts = [] { ShowAlerts(); };
+    gOpeners.ManageAlerts = [] { ManageAlerts(); };
+    gOpeners.SetNewAlert = [] {
+        if (SetNewAlert_Click())
+            ShowAlerts();
+    };
 }
 
 void Composition::PlugSelectedMenu()

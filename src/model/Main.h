@@ -41,7 +41,13 @@ inline constexpr Long ModifyProperty = 7;
 } // namespace EditMode
 extern Long gEditMode;
 
-/// How frmAlerts was called: 1 SetNewAlert_Click, 2 ManageAlerts, 3 a new alert for curContact, 4 modify.
+/// How frmAlerts and frmAlertContacts were called, and then what the person does in frmAlerts.
+namespace AlertMode {
+inline constexpr Long SetNew = 1; ///< SetNewAlert_Click: any contact
+inline constexpr Long Manage = 2; ///< ManageAlerts: a contact that has alerts
+inline constexpr Long New = 3;    ///< a new alert for curContact
+inline constexpr Long Modify = 4;
+} // namespace AlertMode
 extern Long gAlertMode;
 
 /// The header of the column that was clicked last in a list window; the editors start on the control whose tag equals it.
