@@ -242,7 +242,8 @@ void frmContact::MakeNewContact() const
 {
     curContact = std::make_shared<Contact>();
     auto* tree = Face<TreeFace>::Get();
-    if (tree == nullptr)
+    // A category is selected: it holds no contact, and the row would be an orphan.
+    if (tree == nullptr || tree->SelectedParentKey().isEmpty())
         throw RunTimeError(ErrorNumber::ObjectNotSet);
     curContact->subCategoryID = CInt(static_cast<double>(GetKey(tree->SelectedKey())));
     curContact->CategoryID = GetKey(tree->SelectedParentKey());

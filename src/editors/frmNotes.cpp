@@ -131,6 +131,8 @@ QString frmNotes::TypedText() const
 {
     // The raw text: the plain one would turn hard blanks into soft ones.
     QString text = m_ui->txtNotes->document()->toRawText();
+    // Shift+Enter makes a line separator; in the notes a line break is a line break.
+    text.replace(QChar(QChar::LineSeparator), u"\r\n"_s);
     return text.replace(QChar(QChar::ParagraphSeparator), u"\r\n"_s);
 }
 

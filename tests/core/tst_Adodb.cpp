@@ -148,6 +148,7 @@ void tst_Adodb::EveryTextComesBackAsItWasWritten_data()
     QTest::newRow("surrogates the wrong way round") << QString(QChar(0xDC00)) + QChar(0xD800);
     QTest::newRow("emoji beside an unpaired surrogate") << u"\U0001F600"_s + QChar(0xD800) + u"\U0001F600"_s;
     QTest::newRow("hangul, whose bytes look alike") << u"한국"_s;
+    QTest::newRow("byte order marks first") << u"\uFEFF\uFEFFa"_s + QChar(0xD800) + u"\uFEFF"_s;
     QTest::newRow("right to left") << u"שלום"_s;
     QTest::newRow("long") << QString(10'000, u'ä');
 }
