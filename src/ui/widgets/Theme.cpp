@@ -83,10 +83,15 @@ public:
     {
         if (const auto* focus = qstyleoption_cast<const QStyleOptionFocusRect*>(option);
             focus != nullptr && element == PE_FrameFocusRect) {
-            // Fusion hides the frame until a key was used.
-            QStyleOptionFocusRect always(*focus);
-            always.state |= State_KeyboardFocusChange;
-            QProxyStyle::drawPrimitive(element, &always, painter, widget);
+            // Fusion hides the frame until a key was used, and fills it, which washes out the text beneath.
+            const QColor accent = option->palette.color(QPalette::Active, QPalette::Highlight);
+            const bool onAccent = focus->backgroundColor == accent;
+            painter->save();
+            painter->setPen(onAccent ? option->palette.color(QPalette::Active, QPalette::HighlightedText) : accent);
+            painter->setBrush(Qt::NoBrush);
+            painter->setOpacity(onAccent ? 0.6 : 1);
+            painter->drawRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5));
+            painter->restore();
             return;
         }
         QProxyStyle::drawPrimitive(element, option, painter, widget);
