@@ -74,6 +74,10 @@ QImage Render(const QString& file, Shade how, QSize size)
         drawing = source.readAll();
     if (how == Shade::OnAccent) {
         const QColor line = QGuiApplication::palette().color(QPalette::Active, QPalette::HighlightedText);
+        const QColor ground = QGuiApplication::palette().color(QPalette::Active, QPalette::Highlight);
+        // A white line on a field of the accent takes the accent's colour: the field takes that of the text.
+        if (drawing.contains("fill=\"#2F6DB5\""))
+            drawing.replace("stroke=\"#FFFFFF\"", "stroke=\"" + ground.name().toLatin1() + '"');
         drawing.replace("#2F6DB5", line.name().toLatin1()).replace("#76839A", line.name().toLatin1());
     } else if (IsDark())
         drawing.replace("#2F6DB5", "#6FA8E8").replace("#76839A", "#A9B4C6");
