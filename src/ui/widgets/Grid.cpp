@@ -85,14 +85,23 @@ Grid::~Grid() = default;
 
 // Columns.
 
+int Grid::SmallestWidth(const GridColumn& column) const
+{
+    int width = 0;
+    if (!column.Header.isEmpty())
+        width = horizontalHeader()->fontMetrics().horizontalAdvance(column.Header) +
+                2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, horizontalHeader());
+    if (column.Sort == SortType::Date)
+        width = std::max(width, fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000")) +
+                                    2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 2));
+    return width;
+}
+
 int Grid::AddColumn(const GridColumn& column)
 {
     m_model->AddColumn(column);
     const int section = Columns() - 1;
-    // In large letters a declared width may be too small for the header.
-    const int words = horizontalHeader()->fontMetrics().horizontalAdvance(column.Header);
-    const int margins = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, horizontalHeader());
-    setColumnWidth(section, column.Width > 0 && words > 0 ? std::max(column.Width, words + margins) : column.Width);
+    setColumnWidth(section, column.Width > 0 ? std::max(column.Width, SmallestWidth(column)) : column.Width);
     setColumnHidden(section, !column.Visible);
     m_sortOrders.push_back(0);
     return Columns();

@@ -157,6 +157,8 @@ protected:
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
 private:
+    /// What a column needs in the letters of this system: its header, and a date where it holds dates.
+    [[nodiscard]] int SmallestWidth(const GridColumn& column) const;
     class ByCode;
     template <typename Handler>
     bool ByPerson(Handler&& handler);
