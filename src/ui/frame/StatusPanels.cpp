@@ -26,8 +26,10 @@ StatusPanels::StatusPanels(QWidget* parent) : QStatusBar(parent)
         m_panels[static_cast<size_t>(i)] = panel;
         addWidget(panel, i == 0 ? 1 : 0);
     }
-    // The first panel gives way: a long outcome must not widen the window.
+    // The first panel gives way: a long outcome must not widen the window. The others are always whole.
     m_panels[0]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    constexpr int smallest = 96;
+    m_panels[0]->setMinimumWidth(smallest);
     m_panels[4]->setCursor(Qt::PointingHandCursor);
     m_panels[4]->setToolTip(u"Clock Settings"_s);
 }
@@ -35,14 +37,26 @@ StatusPanels::StatusPanels(QWidget* parent) : QStatusBar(parent)
 void StatusPanels::SetText(int panel, const QString& text)
 {
     const auto index = static_cast<size_t>(panel - 1);
-    m_panels.at(index)->setText(text);
+    m_texts.at(index) = text;
+    if (index == 0)
+        ShortenFirst();
+    else
+        m_panels[index]->setText(text);
     // A label with a name of its own is read by that alone.
     m_panels[index]->setAccessibleName(u"%1: %2"_s.arg(QString(names[index]), text));
 }
 
 QString StatusPanels::Text(int panel) const
 {
-    return m_panels.at(static_cast<size_t>(panel - 1))->text();
+    return m_texts.at(static_cast<size_t>(panel - 1));
+}
+
+void StatusPanels::ShortenFirst()
+{
+    QLabel* panel = m_panels[0];
+    const QString shown = panel->fontMetrics().elidedText(m_texts[0], Qt::ElideRight, panel->contentsRect().width());
+    panel->setText(shown);
+    panel->setToolTip(shown == m_texts[0] ? QString() : m_texts[0]);
 }
 
 QPoint StatusPanels::PopupPosition(int panel) const
@@ -53,7 +67,9 @@ QPoint StatusPanels::PopupPosition(int panel) const
 
 bool StatusPanels::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::MouseButtonRelease) {
+    if (event->type() == QEvent::Resize && watched == m_panels[0]) {
+        ShortenFirst();
+    } else if (event->type() == QEvent::MouseButtonRelease) {
         const auto found = std::find(m_panels.begin(), m_panels.end(), watched);
         if (found != m_panels.end())
             Q_EMIT PanelClick(static_cast<int>(found - m_panels.begin()) + 1);

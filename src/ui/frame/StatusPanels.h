@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QStatusBar>
 #include <array>
+#include <QStatusBar>
 
 class QLabel;
 
-/// StatusBar1: five panels. 1 the outcome of the last action, 2 the count of contacts, 3 the count of selected ones, 4 the date,
-/// 5 the clock or the stop-watch.
+/// StatusBar1: five panels. 1 the outcome of the last action, 2 the count of contacts, 3 the count of selected ones, 4
+/// the date, 5 the clock or the stop-watch.
 class StatusPanels : public QStatusBar
 {
     Q_OBJECT
@@ -29,5 +29,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// Shows as much of the outcome as there is room for; the whole of it is the tooltip then.
+    void ShortenFirst();
+
     std::array<QLabel*, PanelCount> m_panels{};
+    std::array<QString, PanelCount> m_texts;
 };
