@@ -105,9 +105,11 @@ Grid& Office::OpenList()
 
 QStringList Office::WindowNames()
 {
-    return {u"splash"_s,   u"main window"_s,  u"contact list"_s,      u"new contact"_s,
-            u"contact"_s,  u"notes"_s,        u"move contact"_s,      u"move category"_s,
-            u"question"_s, u"line of text"_s, u"question of notes"_s, u"error"_s};
+    return {u"splash"_s,       u"main window"_s,  u"main window with selected contacts"_s,
+            u"contact list"_s, u"new contact"_s,  u"contact"_s,
+            u"notes"_s,        u"move contact"_s, u"move category"_s,
+            u"question"_s,     u"line of text"_s, u"question of notes"_s,
+            u"error"_s};
 }
 
 void Office::Open(const QString& window, const Look& look)
@@ -117,6 +119,11 @@ void Office::Open(const QString& window, const Look& look)
         open();
     };
     if (window == "main window"_L1) {
+        look(Main());
+    } else if (window == "main window with selected contacts"_L1) {
+        OpenList().selectAll();
+        Trigger(List(), u"mnuSelect"_s);
+        List().Unload();
         look(Main());
     } else if (window == "line of text"_L1) {
         inForm(u"frmDialog"_s, [this] { Trigger(Main(), u"mnuCatCreate"_s); });

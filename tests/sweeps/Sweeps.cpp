@@ -157,8 +157,10 @@ QStringList CutTexts(const QWidget& window)
     QStringList cut;
     for (const QWidget* control : Shown(window)) {
         if (const auto* label = qobject_cast<const QLabel*>(control)) {
-            // A control that gives way shows its text shortened, and the whole of it elsewhere.
-            if (label->sizePolicy().horizontalPolicy() != QSizePolicy::Ignored)
+            // A label that gives way shortens its text itself.
+            if (label->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored)
+                AddIfCut(cut, label, label->contentsRect().size(), label->fontMetrics().size(0, label->text()));
+            else
                 AddIfCut(cut, label, label->size(), Needed(*label));
         } else if (const auto* button = qobject_cast<const QAbstractButton*>(control)) {
             if (!button->text().isEmpty())
