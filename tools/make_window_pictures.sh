@@ -9,10 +9,10 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source packaging/common.sh
 
 # What the documents show.
-in_documents=(splash main main-empty list list-menu contact contact-new notes move-contact-chosen move-category ask
-    box-question box-information box-critical menu-category-sub)
+in_documents=(splash main main-empty list contact contact-new notes move-contact-chosen move-category ask
+    box-question box-information)
 
-need build run
+need build run screen
 build dev make_window_pictures make_sample orvantine_data
 pictures=build/dev/window-pictures
 rm -rf "$pictures"
@@ -45,10 +45,16 @@ for scheme in light dark; do
     done
 done
 
+# Small enough for the repository.
+keep() { # FROM TO
+    convert "$1" -strip +dither -colors 255 -define png:compression-level=9 PNG8:"$2"
+}
+
+rm -f docs/pictures/*.png
 mkdir -p docs/pictures
 for name in "${in_documents[@]}"; do
     for scheme in light dark; do
-        cp "$pictures/scale-1/$name-$scheme.png" docs/pictures/
+        keep "$pictures/scale-1/$name-$scheme.png" "docs/pictures/$name-$scheme.png"
     done
 done
 cp "$pictures/scale-1/main-window-light.png" docs/pictures/main-window.png

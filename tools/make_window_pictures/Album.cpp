@@ -66,7 +66,6 @@ Album::Album(const QDir& folder, QString scheme, bool smallest)
 void Album::Save(const QPixmap& picture, const QString& name) const
 {
     QImageWriter writer(m_folder.filePath(u"%1-%2.png"_s.arg(name, m_scheme)));
-    writer.setCompression(100);
     if (!writer.write(picture.toImage().convertToFormat(QImage::Format_RGB32)))
         throw std::runtime_error(qPrintable(writer.fileName() + u": "_s + writer.errorString()));
 }

@@ -365,6 +365,7 @@ void Run::Boxes()
 void Run::Desk()
 {
     QWidget& list = Window(u"frmList"_s);
+    Trigger(Main(), u"mnuTitleOrvantine"_s);
     Main().resize(1000, 620);
     list.resize(860, 430);
     ClickCell(3, 4);
@@ -390,6 +391,9 @@ void TakeAll(const QCommandLineParser& options)
     }
     gContacts.RemoveAll();
     gCategories.RemoveAll();
+    gAlerts.RemoveAll();
+    gAlertsCurrent = 0;
+    gAlertsFuture = 0;
     gSelected.RemoveAll();
     {
         const QTemporaryDir folder;
