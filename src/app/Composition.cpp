@@ -1,8 +1,11 @@
 #include "app/Composition.h"
 
+#include "alerts/AlertPanels.h"
+#include "alerts/ManageAlerts.h"
 #include "editors/Editors.h"
 #include "model/DeleteContacts.h"
 #include "model/Openers.h"
+#include "model/SelectedSet.h"
 #include "organise/CategoryTree.h"
 #include "organise/frmList.h"
 #include "ui/frame/Menus.h"
@@ -10,11 +13,12 @@
 
 using namespace Qt::StringLiterals;
 
-Composition::Composition() : m_tree(new CategoryTree(m_main))
+Composition::Composition() : m_tree(new CategoryTree(m_main)), m_alerts(new AlertPanels(m_main))
 {
     // The main window is the last to go, and everything hangs on it: it outlives its own unloading.
     m_main.SetDeleteOnUnload(false);
     m_main.AddContactsPanel(m_tree, 1);
+    m_main.AddContactsPanel(m_alerts, 1);
     PlugOpeners();
     PlugSelectedMenu();
 }
@@ -29,11 +33,18 @@ void Composition::PlugOpeners()
     gOpeners.ContactEditor = [] { ShowContactEditor(); };
     gOpeners.Notes = [] { ShowNotes(); };
     gOpeners.ContactList = [this] { ShowContactList(&m_main); };
+    gOpeners.Alerts = [] { ShowAlerts(); };
+    gOpeners.ManageAlerts = [] { ManageAlerts(); };
+    gOpeners.SetNewAlert = [] {
+        if (SetNewAlert_Click())
+            ShowAlerts();
+    };
 }
 
 void Composition::PlugSelectedMenu()
 {
     Menus& menus = m_main.MainMenus();
+    menus.Plug(u"mnuUnselectAll"_s, &m_main, [] { UnselectAll(); });
     menus.Plug(u"mnuDeleteSelectedContacts"_s, &m_main, [] { DeleteContacts(DeleteMode::Selected); });
     menus.PlugOpener(u"mnuManageAlerts"_s, &m_main, gOpeners.ManageAlerts);
     menus.PlugOpener(u"mnuSetNewAlert"_s, &m_main, gOpeners.SetNewAlert);

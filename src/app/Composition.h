@@ -2,12 +2,14 @@
 
 #include "ui/frame/frmMain.h"
 
+class AlertPanels;
 class CategoryTree;
 
 /// The main window with the features plugged in:
 ///
 ///   CategoryTree  -> first tab, mnuCategory
-///   frmList, frmContact, frmNotes  -> openers
+///   AlertPanels   -> first tab, mnuAlertGrid
+///   frmList, frmContact, frmNotes, frmAlerts, ManageAlerts, SetNewAlert_Click  -> openers
 ///
 /// What is not plugged in stands disabled in the menus.
 class Composition
@@ -25,4 +27,5 @@ private:
 
     frmMain m_main;
     CategoryTree* m_tree;
+    AlertPanels* m_alerts;
 };

@@ -2,6 +2,7 @@
 
 #include "core/Dictionary.h"
 #include "core/Types.h"
+#include "core/User.h"
 #include "model/Alerts.h"
 #include "model/SelectedSet.h"
 #include "model/Settings.h"
@@ -29,9 +30,6 @@ extern QString gHilitedList;
 /// The one row of settings.
 extern Settings gSettings;
 
-/// The reply of the last modal dialog; "" where the person cancelled ("Cancelled" for frmMove).
-extern QString gReturnValue;
-
 /// What the contact and property screens are doing.
 namespace EditMode {
 inline constexpr Long ModifyContact = 0;
@@ -43,7 +41,13 @@ inline constexpr Long ModifyProperty = 7;
 } // namespace EditMode
 extern Long gEditMode;
 
-/// How frmAlerts was called: 1 SetNewAlert_Click, 2 ManageAlerts, 3 a new alert for curContact, 4 modify.
+/// How frmAlerts and frmAlertContacts were called, and then what the person does in frmAlerts.
+namespace AlertMode {
+inline constexpr Long SetNew = 1; ///< SetNewAlert_Click: any contact
+inline constexpr Long Manage = 2; ///< ManageAlerts: a contact that has alerts
+inline constexpr Long New = 3;    ///< a new alert for curContact
+inline constexpr Long Modify = 4;
+} // namespace AlertMode
 extern Long gAlertMode;
 
 /// The header of the column that was clicked last in a list window; the editors start on the control whose tag equals it.

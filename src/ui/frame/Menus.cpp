@@ -11,6 +11,7 @@ namespace {
 enum class Kind
 {
     Top,     ///< a menu of the bar
+    Popup,   ///< a menu that stands in no bar
     TopItem, ///< an entry that stands in the bar itself
     Item,
     Checked, ///< an entry with a check mark
@@ -95,6 +96,13 @@ constexpr Line lines[]{
     {Kind::Item, "mnuContact"_L1, "Contact Pelmar Software"_L1},
     {Kind::Item, "mnuOrvantine"_L1, "Orvantine Home Page"_L1},
 
+    {Kind::Popup, "mnuAlertGrid"_L1, "Alerts"_L1},
+    {Kind::Item, "mnuShowAlert"_L1, "Show Alert"_L1},
+    {Kind::Item, "mnuShowContact"_L1, "Show Contact"_L1},
+    {Kind::Item, "mnuManageCurAlerts"_L1, "Manage Alerts"_L1},
+    {Kind::Item, "mnuDeleteAlert"_L1, "Delete Alert"_L1},
+    {Kind::Item, "mnuNewCurAlert"_L1, "New Alert"_L1},
+
     {Kind::TopItem, "mnuExit"_L1, "Cl&ose"_L1},
 };
 
@@ -113,6 +121,10 @@ Menus::Menus(QMenuBar& bar)
             top = bar.addMenu(caption);
             sub = top;
             top->menuAction()->setVisible(line.Shown);
+            break;
+        case Kind::Popup:
+            top = new QMenu(caption, &bar);
+            sub = top;
             break;
         case Kind::Sub:
             sub = top->addMenu(caption);

@@ -1,0 +1,12 @@
+#include "ui/widgets/PlainText.h"
+
+#include <QPlainTextEdit>
+
+using namespace Qt::StringLiterals;
+
+QString PlainText(const QPlainTextEdit& box)
+{
+    // The raw text: the plain one would turn hard blanks into soft ones.
+    QString text = box.document()->toRawText();
+    return text.replace(QChar(QChar::ParagraphSeparator), u"\r\n"_s);
+}

@@ -1,0 +1,86 @@
+#include "ui/widgets/frmCalendar.h"
+
+#include "core/Clock.h"
+#include "core/Dates.h"
+#include "core/Format.h"
+#include "core/Trap.h"
+#include "ui/widgets/Forms.h"
+#include "ui/widgets/HoverButtonArray.h"
+
+#include <QCalendarWidget>
+#include <QTextCharFormat>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Cancel = 1;
+constexpr int Ok = 2;
+constexpr int TitleBarRoom = 140; // what a title bar needs beside its text
+
+} // namespace
+
+frmCalendar::frmCalendar(const QString& caption, const QDate& value)
+    : Form(u"frmCalendar"_s, Qt::Dialog), m_calendar(new QCalendarWidget(this))
+{
+    setWindowTitle(caption);
+    DressCalendar(value);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 16, 16, 8);
+    layout->addWidget(m_calendar);
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    layout->addLayout(row);
+    auto* buttons = new HoverButtonArray(*this, *row, {{Ok, u"Ok"_s, u"Ok"_s}, {Cancel, u"Cancel"_s, u"Cancel"_s}});
+    connect(buttons, &HoverButtonArray::Click, this, &frmCalendar::cmdButton_Click);
+    connect(m_calendar, &QCalendarWidget::activated, this, &frmCalendar::OkClick);
+    const int room = screen()->availableSize().width() - 40;
+    setMinimumWidth(std::min(fontMetrics().horizontalAdvance(caption) + TitleBarRoom, room));
+    m_calendar->setFocus();
+    CenterForm(*this);
+}
+
+void frmCalendar::DressCalendar(const QDate& value)
+{
+    m_calendar->setObjectName(u"Calendar1"_s);
+    m_calendar->setAccessibleName(u"Date"_s);
+    m_calendar->setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
+    m_calendar->setFirstDayOfWeek(Qt::Sunday);
+    m_calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    m_calendar->setMinimumSize(320, 240);
+    // Red is the colour of what is due; a Sunday is not.
+    m_calendar->setWeekdayTextFormat(Qt::Saturday, {});
+    m_calendar->setWeekdayTextFormat(Qt::Sunday, {});
+    QTextCharFormat today;
+    today.setFontWeight(QFont::Bold);
+    m_calendar->setDateTextFormat(Clock::Today(), today);
+    m_calendar->setSelectedDate(value);
+}
+
+void frmCalendar::cmdButton_Click(int index)
+{
+    if (index == Ok)
+        OkClick();
+    else
+        Unload();
+}
+
+void frmCalendar::OkClick()
+{
+    Trap(u"frmCalendar OkClick Error #"_s, Icon::Critical,
+         [this] { m_reply = Format(ToDate(m_calendar->selectedDate()), u"mm/dd/yyyy"); });
+    Unload();
+}
+
+void frmCalendar::EscapePressed()
+{
+    Unload();
+}
+
+QString AskForDate(const QString& caption, const QDate& value)
+{
+    frmCalendar form(caption, value);
+    form.ShowModal(Forms::Active());
+    return form.Reply();
+}
