@@ -55,13 +55,16 @@ private:
     static QString DateOf(const Form& form) { return Control<QLabel>(form, u"lblDate"_s).text(); }
     static QPlainTextEdit& NoteOf(const Form& form) { return Control<QPlainTextEdit>(form, u"txtNotes"_s); }
     static Grid& GridOf(const Form& form) { return Control<Grid>(form, u"Grid1"_s); }
-    /// Picks a day in the calendar that opens next; an invalid day cancels it.
-    static std::unique_ptr<WhenFormOpens> Pick(const QDate& day, const QString& caption = u"Alert Date for Ann Lee"_s)
+    /// Picks a day in the calendar that opens next, an invalid day cancels it; then goes on in the window beneath.
+    static std::unique_ptr<WhenFormOpens> Pick(const QDate& day, const QString& caption = u"Alert Date for Ann Lee"_s,
+                                               const std::function<void()>& goOn = {})
     {
-        return std::make_unique<WhenFormOpens>(u"frmCalendar"_s, [day, caption](Form& form) {
+        return std::make_unique<WhenFormOpens>(u"frmCalendar"_s, [=](Form& form) {
             QCOMPARE(form.windowTitle(), caption);
             Control<QCalendarWidget>(form, u"Calendar1"_s).setSelectedDate(day);
             ClickOn(form, day.isValid() ? u"cmdButton_2"_s : u"cmdButton_1"_s);
+            if (goOn)
+                goOn();
         });
     }
     static constexpr auto confirm = "Please Confirm Before I Proceed"_L1;
@@ -145,19 +148,24 @@ void tst_AlertWindows::CancelBringsTheFieldsBack()
     QFETCH(int, mode);
     Morning morning;
     const QString caption = u"Alert Date for "_s + FormatName(*ContactAt(contact));
-    const auto first = mode == AlertMode::New ? Pick(QDate(2026, 12, 5), caption) : nullptr;
-    const WhenFormOpens window(u"frmAlerts"_s, [&](Form& form) {
-        if (mode == AlertMode::Modify) {
-            Modify(form);
-            const auto second = Pick(QDate(2026, 12, 5));
-            ClickOn(form, u"picCalendar"_s);
-        }
-        QCOMPARE(DateOf(form), u"12/05/2026"_s);
-        TypeText(form, u"Something else"_s);
-        Delete(form);
-        QTEST(DateOf(form), "date");
-        QTEST(NoteOf(form).toPlainText(), "note");
-    });
+    std::unique_ptr<WhenFormOpens> window;
+    const auto work = [&] {
+        window = std::make_unique<WhenFormOpens>(u"frmAlerts"_s, [&](Form& form) {
+            if (mode == AlertMode::Modify) {
+                Modify(form);
+                const auto second = Pick(QDate(2026, 12, 5));
+                ClickOn(form, u"picCalendar"_s);
+            }
+            QCOMPARE(DateOf(form), u"12/05/2026"_s);
+            TypeText(form, u"Something else"_s);
+            Delete(form);
+            QTEST(DateOf(form), "date");
+            QTEST(NoteOf(form).toPlainText(), "note");
+        });
+    };
+    const auto first = mode == AlertMode::New ? Pick(QDate(2026, 12, 5), caption, work) : nullptr;
+    if (!first)
+        work();
     Open(contact, mode);
     QVERIFY(morning.Database.TakeStatements().isEmpty());
 }
@@ -189,8 +197,8 @@ void tst_AlertWindows::ANewAlertFromTheContactList()
     Face<ContactListFace>::Get()->SelectContact(3);
     curContact = ContactAt(3);
     static_cast<void>(morning.Database.TakeStatements());
-    const auto calendar = Pick(QDate(2026, 11, 22), u"Alert Date for Cy Day"_s);
-    const WhenFormOpens window(u"frmAlerts"_s, [&](Form& form) {
+    std::unique_ptr<WhenFormOpens> window;
+    const auto work = [&](Form& form) {
         QCOMPARE(form.windowTitle(), u"New Alert for Cy Day"_s);
         TypeText(form, u"Cy's keys"_s);
         Modify(form);
@@ -201,7 +209,9 @@ void tst_AlertWindows::ANewAlertFromTheContactList()
         QCOMPARE(list.CellIcon(3, 1), u"red"_s);
         QCOMPARE(list.CellColor(3, list.ColumnIndex(u"LastName")), QColor(255, 0, 0));
         QVERIFY(NoteOf(form).isReadOnly());
-    });
+    };
+    const auto calendar = Pick(QDate(2026, 11, 22), u"Alert Date for Cy Day"_s,
+                               [&] { window = std::make_unique<WhenFormOpens>(u"frmAlerts"_s, work); });
     // The double click on "Alert" of a contact without alerts goes straight to a new one.
     QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(list.model()->index(2, 0)).center());
     QCOMPARE(morning.Database.TakeStatements(),
@@ -399,7 +409,7 @@ void tst_AlertWindows::SettingAnAlertEndsWhereThePersonStops()
     std::unique_ptr<WhenFormOpens> chooser;
     std::unique_ptr<WhenFormOpens> calendar;
     if (stop == 0) {
-        gContacts.Clear();
+        gContacts.RemoveAll();
         morning.Person.Expect(u"New Alert Cancelled"_s, u"I cannot set any new alerts because\r\nyou do not have any "
                                                         u"contacts in the system."_s);
     } else {
