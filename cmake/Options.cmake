@@ -18,6 +18,13 @@ if(ORVANTINE_SANITIZE)
     target_link_options(orvantine_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(ORVANTINE_FUZZ)
+    set(fuzz_checks -fsanitize=fuzzer-no-link,address,undefined,float-cast-overflow)
+    target_compile_options(orvantine_options INTERFACE
+        ${fuzz_checks} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(orvantine_options INTERFACE ${fuzz_checks})
+endif()
+
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})

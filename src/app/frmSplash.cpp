@@ -12,6 +12,7 @@
 #include "ui/widgets/UserWindows.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QProgressBar>
 #include <QVBoxLayout>
@@ -76,7 +77,9 @@ void frmSplash::Start()
     m_program = std::make_unique<Composition>();
     m_user.SetStatusBar([this](const std::optional<QString>& message) { m_program->Main().ShoWait(message); });
     m_program->Tree().FillTree();
-    LoadContacts([this](int percent) { ShowProgress(percent); });
+    QElapsedTimer sincePaint;
+    sincePaint.start();
+    LoadContacts([this](int percent) { m_bar->setValue(percent); }, [&sincePaint] { DoEvents(sincePaint); });
     if (auto* panels = Face<AlertPanelsFace>::Get()) {
         panels->FillAlertGrid(false);
         panels->FillAlertGrid(true);
@@ -102,10 +105,14 @@ void frmSplash::EndWherePrevInstance()
     std::_Exit(EXIT_SUCCESS);
 }
 
-void frmSplash::ShowProgress(int percent)
+void frmSplash::DoEvents(QElapsedTimer& sincePaint)
 {
-    m_bar->setValue(percent);
-    QCoreApplication::processEvents();
+    constexpr int frame = 40;
+    if (sincePaint.elapsed() < frame)
+        return;
+    // The splash repaints; no window takes input while the program comes up.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    sincePaint.restart();
 }
 
 void frmSplash::EscapePressed()

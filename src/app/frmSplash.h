@@ -6,6 +6,7 @@
 #include <memory>
 
 class Composition;
+class QElapsedTimer;
 class QProgressBar;
 class UserWindows;
 
@@ -32,7 +33,8 @@ private:
     void Start();
     static void OpenDatabase();
     void EndWherePrevInstance();
-    void ShowProgress(int percent);
+    /// Runs after each row that is loaded.
+    static void DoEvents(QElapsedTimer& sincePaint);
 
     UserWindows& m_user;
     QProgressBar* m_bar = nullptr;

@@ -2,6 +2,8 @@
 
 using namespace Qt::StringLiterals;
 
+QString gReturnValue;
+
 namespace {
 
 class SilentUser final : public User
@@ -38,6 +40,12 @@ User& User::Current()
 void User::Install(User* user)
 {
     installed = user;
+}
+
+QString AskFor(const QString& caption, int maxLength)
+{
+    gReturnValue = User::Current().AskFor(caption, maxLength);
+    return gReturnValue;
 }
 
 bool Confirmed(const QString& question)

@@ -58,10 +58,11 @@ inline Answer MsgBox(const QString& text, Buttons buttons, Icon icon, const QStr
 {
     return User::Current().MsgBox(text, buttons, icon, title);
 }
-inline QString AskFor(const QString& caption, int maxLength = 0)
-{
-    return User::Current().AskFor(caption, maxLength);
-}
+/// The reply of the last modal dialog; "" where the person cancelled ("Cancelled" for frmMove).
+extern QString gReturnValue;
+
+/// Asks for one line of text; the reply stands in gReturnValue too.
+QString AskFor(const QString& caption, int maxLength = 0);
 inline void ShoWait(const QString& message)
 {
     User::Current().ShoWait(message);

@@ -17,10 +17,10 @@ ContactField FieldOf(int row)
 
 QString RowText(const Contact& contact, int row)
 {
-    return FieldText(contact, FieldOf(row));
+    return ContactText(contact, FieldOf(row));
 }
 
 void SetRowText(Contact& contact, int row, const QString& text)
 {
-    SetFieldText(contact, FieldOf(row), text);
+    SetContactText(contact, FieldOf(row), text);
 }

@@ -14,5 +14,6 @@ struct Insertion
 /// Finds what came in between two states of a field.
 [[nodiscard]] Insertion FindInsertion(QStringView before, QStringView now);
 
-/// The text as one line can hold it: line breaks and tabs inside become blanks, at the ends they go; other control characters go.
+/// The text as one line can hold it: line breaks and tabs inside become blanks, at the ends they go; other control
+/// characters go.
 [[nodiscard]] QString OneLine(QString text);

@@ -4,10 +4,10 @@
 #include "model/Lists.h"
 #include "ui/widgets/Grid.h"
 #include "ui/widgets/KeyCodes.h"
+#include "ui/widgets/Theme.h"
 
 #include <limits>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -25,14 +25,14 @@ constexpr int ValueColumn = 2;
 constexpr int LabelWidth = 100;
 constexpr int ValueWidth = 300;
 constexpr int FewestRows = 5;
-constexpr QColor Lavender(0xE8, 0xE9, 0xFF);
+constexpr int Air = 3;
 
 /// Lavender with dark letters, in any palette of the program.
 void PaintAsEdit(QWidget& control)
 {
     QPalette palette = control.palette();
     for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Button, QPalette::Window})
-        palette.setColor(role, Lavender);
+        palette.setColor(role, Theme::Lavender);
     for (const QPalette::ColorRole role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText})
         palette.setColor(role, Qt::black);
     control.setPalette(palette);
@@ -40,9 +40,7 @@ void PaintAsEdit(QWidget& control)
 
 } // namespace
 
-SheetEditor::SheetEditor(std::vector<SheetRow> rows, QWidget* parent)
-    : QWidget(parent)
-    , m_rows(std::move(rows))
+SheetEditor::SheetEditor(std::vector<SheetRow> rows, QWidget* parent) : QWidget(parent), m_rows(std::move(rows))
 {
     // The order of making is the order of Tab.
     m_txtFirst = AddSentinel(u"txtFirst"_s);
@@ -72,13 +70,14 @@ void SheetEditor::AddGrid()
 {
     m_grid = new Grid(this);
     m_grid->setObjectName(u"Grid2"_s);
+    m_grid->setAccessibleName(u"Sheet"_s);
     m_grid->setFocusPolicy(Qt::NoFocus);
     m_grid->setShowGrid(true);
     m_grid->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_grid->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_grid->SetHeaderVisible(false);
     m_grid->AddColumn({.Key = u"Label"_s, .Header = {}, .HeaderIcon = {}, .Width = LabelWidth});
-    m_grid->AddColumn({.Key = u"Value"_s, .Header = {}, .HeaderIcon = {}, .Width = ValueWidth});
+    m_grid->AddColumn({.Key = u"Value"_s, .Header = {}, .HeaderIcon = {}, .Width = 0});
     m_grid->horizontalHeader()->setStretchLastSection(true);
     for (const SheetRow& row : m_rows)
         AddGridRow(*m_grid, row.Label);
@@ -115,11 +114,20 @@ void SheetEditor::AddControl(int row)
     m_controls.push_back(control);
 }
 
+int SheetEditor::RowHeight() const
+{
+    m_grid->ensurePolished();
+    int height = m_grid->fontMetrics().height();
+    for (QWidget* control : m_controls) {
+        control->ensurePolished();
+        height = std::max(height, control->sizeHint().height());
+    }
+    return height + Air;
+}
+
 void SheetEditor::FitRows()
 {
-    int height = m_grid->fontMetrics().height() + 6;
-    for (const QWidget* control : m_controls)
-        height = std::max(height, control->sizeHint().height());
+    const int height = RowHeight();
     if (m_grid->verticalHeader()->defaultSectionSize() != height)
         m_grid->verticalHeader()->setDefaultSectionSize(height);
     QFont bold = m_grid->font();
@@ -134,13 +142,12 @@ void SheetEditor::FitRows()
 QSize SheetEditor::sizeHint() const
 {
     const int frame = 2 * m_grid->frameWidth();
-    return {m_grid->columnWidth(LabelColumn - 1) + ValueWidth + frame,
-            m_grid->verticalHeader()->defaultSectionSize() * Rows() + frame};
+    return {m_grid->columnWidth(LabelColumn - 1) + ValueWidth + frame, RowHeight() * Rows() + frame};
 }
 
 QSize SheetEditor::minimumSizeHint() const
 {
-    return {LabelWidth * 2, m_grid->verticalHeader()->defaultSectionSize() * FewestRows};
+    return {LabelWidth * 2, RowHeight() * FewestRows};
 }
 
 // Rows, values, controls.
@@ -227,7 +234,7 @@ void SheetEditor::SetNextFocus(int row)
     if (m_row != 0)
         PaintRow(m_row, false);
     m_row = row;
-    m_grid->EnsureVisible(row, ValueColumn);
+    m_grid->EnsureVisible(row, LabelColumn);
     PaintRow(row, true);
     Load(row);
     Control(row)->show();
@@ -264,7 +271,7 @@ void SheetEditor::Place()
 
 void SheetEditor::PaintRow(int row, bool inEdit)
 {
-    m_grid->SetCellBackColor(row, ValueColumn, inEdit ? Lavender : QColor());
+    m_grid->SetCellBackColor(row, ValueColumn, inEdit ? Theme::Lavender : QColor());
     if (inEdit) {
         QFont bold = m_grid->font();
         bold.setBold(true);
@@ -373,6 +380,7 @@ bool SheetEditor::SwallowsKey(int row, QKeyEvent* event)
 {
     const bool withCtrl = event->modifiers().testFlag(Qt::ControlModifier);
     const int ascii = KeyAscii(*event);
+    m_typing = false;
     if (ascii == Key::Escape) {
         // A list would take it for a letter to look for; the window is who knows what Esc does.
         event->ignore();
@@ -380,7 +388,7 @@ bool SheetEditor::SwallowsKey(int row, QKeyEvent* event)
     }
     if (!withCtrl && (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab))
         return TabKey(event->key() == Qt::Key_Backtab || event->modifiers().testFlag(Qt::ShiftModifier));
-    m_grid->EnsureVisible(row, ValueColumn);
+    m_grid->EnsureVisible(row, LabelColumn);
     if (ascii == Key::Enter) {
         Enter();
         return true;
@@ -390,6 +398,7 @@ bool SheetEditor::SwallowsKey(int row, QKeyEvent* event)
     const SheetRow& rule = At(row);
     if (rule.Accepts && !rule.Accepts(ascii, ControlText(row)))
         return true;
+    m_typing = true;
     if (rule.PressMask && ascii != Key::Backspace)
         SetField(row, rule.PressMask(Field(row)));
     return false;
@@ -441,8 +450,9 @@ void SheetEditor::Edited(int row, const QString& now)
     const Insertion edit = FindInsertion(m_before, now);
     const SheetRow& rule = At(row);
     QString kept;
+    const bool accepted = std::exchange(m_typing, false) && edit.Text.size() == 1;
     for (const QChar c : OneLine(edit.Text))
-        if (!rule.Accepts || rule.Accepts(c.unicode(), now.left(edit.Position) + kept))
+        if (accepted || !rule.Accepts || rule.Accepts(c.unicode(), now.left(edit.Position) + kept))
             kept += c;
     if (kept != edit.Text)
         SetField(row, {now.left(edit.Position) + kept + now.mid(edit.Position + edit.Text.size()),
@@ -455,6 +465,7 @@ void SheetEditor::Edited(int row, const QString& now)
 void SheetEditor::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
+    FitRows();
     if (m_row == 0)
         txtFirst_GotFocus();
 }

@@ -10,7 +10,8 @@ class Grid;
 class QKeyEvent;
 class QLineEdit;
 
-/// A sheet of labels and values in which one row is in edit: its value cell is painted apart, and the row's control stands on it.
+/// A sheet of labels and values in which one row is in edit: its value cell is painted apart, and the row's control
+/// stands on it.
 ///
 ///   txtFirst            sentinel before the first row
 ///   | Label:  | value |
@@ -19,11 +20,14 @@ class QLineEdit;
 ///   txtEnd              sentinel behind the last row
 ///
 /// The values, not the controls, hold the data. The order of events is a contract with the rules of the rows:
-///   Tab, Shift+Tab, a press on another row   key press; Validate (may refuse) and LostFocus of the old row; GotFocus of the new one
-///                                            (may send back); the new row is in edit; the key's release goes to the new row
-///   Enter                                    EnterCommits (may stay); LostFocus of the old row; the new row is in edit; its GotFocus
-/// Only the person's way through the sheet counts: that another program, a box, a menu or a list's popup takes the focus is
-/// neither lost nor got focus. Rows count from 1.
+///   Tab, Shift+Tab, a press on another row   key press; Validate (may refuse) and LostFocus of the old row; GotFocus
+///   of the new one
+///                                            (may send back); the new row is in edit; the key's release goes to the
+///                                            new row
+///   Enter                                    EnterCommits (may stay); LostFocus of the old row; the new row is in
+///   edit; its GotFocus
+/// Only the person's way through the sheet counts: that another program, a box, a menu or a list's popup takes the
+/// focus is neither lost nor got focus. Rows count from 1.
 class SheetEditor : public QWidget
 {
     Q_OBJECT
@@ -55,7 +59,8 @@ public:
     [[nodiscard]] int CurRow() const { return m_row; }
     /// How txtFirst_GotFocus chooses its row: told the row in edit, gives the row to begin with.
     void SetStartRow(std::function<int(int curRow)> startRow) { m_startRow = std::move(startRow); }
-    /// The focus comes to the sheet from before its first row: when the window opens, by Shift+Tab on the first row, after Clear.
+    /// The focus comes to the sheet from before its first row: when the window opens, by Shift+Tab on the first row,
+    /// after Clear.
     void txtFirst_GotFocus();
     /// Puts a row in edit: loads its control from the value, places it, gives it the focus with the caret at the end.
     void SetNextFocus(int row);
@@ -68,7 +73,8 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    /// The control of the row in edit was put on its cell, by a move, a scroll or a resize; beside it a window may place more.
+    /// The control of the row in edit was put on its cell, by a move, a scroll or a resize; beside it a window may
+    /// place more.
     void Placed(int row);
 
 protected:
@@ -79,6 +85,7 @@ private:
     void AddGrid();
     void AddControl(int row);
     QWidget* AddSentinel(const QString& name);
+    [[nodiscard]] int RowHeight() const;
     void FitRows();
     [[nodiscard]] const SheetRow& At(int row) const { return m_rows.at(static_cast<size_t>(row) - 1); }
     [[nodiscard]] QLineEdit* LineEdit(int row) const;
@@ -103,6 +110,8 @@ private:
     int m_row = 0;
     int m_shown = 0;
     bool m_moving = false;
+    /// A key was accepted and is on its way into the field.
+    bool m_typing = false;
     /// What stood in the field in edit before the edit that is being told.
     QString m_before;
 };

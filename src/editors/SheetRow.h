@@ -2,13 +2,13 @@
 
 #include "core/FieldRules.h"
 
-#include <QString>
 #include <functional>
+#include <QString>
 
 class SheetEditor;
 
-/// One row of a sheet as its window declares it: what it is called, and its own rules for keys, commits and focus. A rule that
-/// is left empty changes nothing and forbids nothing.
+/// One row of a sheet as its window declares it: what it is called, and its own rules for keys, commits and focus. A
+/// rule that is left empty changes nothing and forbids nothing.
 struct SheetRow
 {
     /// Asked of a row; false refuses.
@@ -40,6 +40,7 @@ struct SheetRow
     Test Validate = {};
     /// After the focus left, also by Enter.
     Act LostFocus = {};
-    /// When the focus comes, before the row becomes the one in edit (with Enter it is already); false sends the focus back.
+    /// When the focus comes, before the row becomes the one in edit (with Enter it is already); false sends the focus
+    /// back.
     Test GotFocus = {};
 };

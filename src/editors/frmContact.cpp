@@ -34,8 +34,7 @@ QString NewCaption()
 
 } // namespace
 
-frmContact::frmContact()
-    : Form(u"frmContact"_s)
+frmContact::frmContact() : Form(u"frmContact"_s)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 8, 8, 8);
@@ -45,6 +44,8 @@ frmContact::frmContact()
     layout->addWidget(m_sheet, 1);
     LoadBitMaps();
     Form_Load();
+    // All rows at once where the screen has the room; CenterForm takes away what it has not.
+    resize(sizeHint());
     CenterForm(*this);
 }
 
@@ -80,12 +81,15 @@ void frmContact::LoadBitMaps()
                                       {SaveNAdd, u"SaveNAdd"_s, u"Save and add"_s}});
     buttons->addStretch();
     static_cast<QBoxLayout*>(layout())->addLayout(buttons);
-    // A press leaves the focus where it is: the sheet is asked first, and the person goes on in the same row after a refusal.
+    // A press leaves the focus where it is: the sheet is asked first, and the person goes on in the same row after a
+    // refusal.
     m_buttons->SetTakesFocus(false);
     connect(m_buttons, &HoverButtonArray::Click, this, &frmContact::Press);
     const std::pair<int, QString> keys[] = {{Cancel, u"Alt+C"_s}, {SaveAndExit, u"Alt+S"_s}, {SaveNAdd, u"Alt+A"_s}};
     for (const auto& [index, key] : keys) {
-        connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this, [this, i = index] { Press(i); });
+        auto* shortcut = new QShortcut(QKeySequence(key), this);
+        shortcut->setAutoRepeat(false);
+        connect(shortcut, &QShortcut::activated, this, [this, i = index] { Press(i); });
         HoverButton* button = m_buttons->Button(index);
         button->setToolTip(u"%1 (%2)"_s.arg(button->text(), key));
     }
@@ -150,8 +154,8 @@ void frmContact::cmdButton_Click(int index)
         return;
     }
     if (Trim(m_sheet->Value(ContactRow::FirstName)).isEmpty() && Trim(m_sheet->Value(ContactRow::LastName)).isEmpty()) {
-        MsgBox(u"I did not save this contact because\r\n you did not enter a contact name."_s, Buttons::Ok, Icon::Information,
-               u"Contact not Saved"_s);
+        MsgBox(u"I did not save this contact because\r\n you did not enter a contact name."_s, Buttons::Ok,
+               Icon::Information, u"Contact not Saved"_s);
         return;
     }
     if (!SaveContact()) {
@@ -238,7 +242,8 @@ void frmContact::MakeNewContact() const
 {
     curContact = std::make_shared<Contact>();
     auto* tree = Face<TreeFace>::Get();
-    if (tree == nullptr)
+    // A category is selected: it holds no contact, and the row would be an orphan.
+    if (tree == nullptr || tree->SelectedParentKey().isEmpty())
         throw RunTimeError(ErrorNumber::ObjectNotSet);
     curContact->subCategoryID = CInt(static_cast<double>(GetKey(tree->SelectedKey())));
     curContact->CategoryID = GetKey(tree->SelectedParentKey());
@@ -254,8 +259,8 @@ void frmContact::InsertContact() const
 {
     const Long id = curContact->AddToDB(curContact->subCategoryID);
     curContact->RecID = id;
-    // Where the read-back gave an older contact's ID, or a second row is left without one, this raises: the row is written,
-    // and the person has read why it is not shown.
+    // Where the read-back gave an older contact's ID, or a second row is left without one, this raises: the row is
+    // written, and the person has read why it is not shown.
     gContacts.Add(id, curContact);
     ++CategoryAt(curCategoryID)->ContactCount;
     ++CurrentSub()->ContactCount;

@@ -36,18 +36,18 @@ bool IsOfProperty()
 
 bool IsModifier(int key)
 {
-    return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_AltGr || key == Qt::Key_Meta;
+    return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_AltGr ||
+           key == Qt::Key_Meta;
 }
 
 } // namespace
 
-frmNotes::frmNotes()
-    : Form(u"frmNotes"_s)
-    , m_ui(std::make_unique<Ui::frmNotes>())
-    , m_ofProperty(IsOfProperty())
+frmNotes::frmNotes() : Form(u"frmNotes"_s), m_ui(std::make_unique<Ui::frmNotes>()), m_ofProperty(IsOfProperty())
 {
     m_ui->setupUi(this);
     m_scaler = std::make_unique<ResizeScaler>(*this, std::vector<const QWidget*>{m_ui->txtNotes});
+    // A small screen may shrink the window before its first resize is told.
+    m_scaler->SaveSizes();
     LoadBitMaps();
     AddKeys();
     Form_Load();
@@ -90,7 +90,9 @@ void frmNotes::LoadBitMaps()
 void frmNotes::AddKeys()
 {
     const auto on = [this](const QString& key, auto act) {
-        connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this, act);
+        auto* shortcut = new QShortcut(QKeySequence(key), this);
+        shortcut->setAutoRepeat(false);
+        connect(shortcut, &QShortcut::activated, this, act);
     };
     on(u"Alt+D"_s, [this] { picStamp_Click(); });
     on(u"Alt+S"_s, [this] { cmdButton_Click(SaveButton); });
@@ -112,6 +114,8 @@ QString frmNotes::TypedText() const
 {
     // The raw text: the plain one would turn hard blanks into soft ones.
     QString text = m_ui->txtNotes->document()->toRawText();
+    // Shift+Enter makes a line separator; in the notes a line break is a line break.
+    text.replace(QChar(QChar::LineSeparator), u"\r\n"_s);
     return text.replace(QChar(QChar::ParagraphSeparator), u"\r\n"_s);
 }
 
@@ -201,10 +205,16 @@ void frmNotes::Form_QueryUnload(bool& cancel, UnloadMode mode)
 bool frmNotes::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_ui->txtNotes && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
+        auto* press = static_cast<QKeyEvent*>(event);
+        const int key = press->key();
         // Any key counts as a change, also one that is taken back, which is meant.
         if (!IsModifier(key) && key != Qt::Key_Escape && key != Qt::Key_Tab && key != Qt::Key_Backtab)
             m_dirty = true;
+        // Every break is a line of its own in the store.
+        if (press->matches(QKeySequence::InsertLineSeparator)) {
+            m_ui->txtNotes->insertPlainText(u"\n"_s);
+            return true;
+        }
     }
     return Form::eventFilter(watched, event);
 }

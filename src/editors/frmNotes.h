@@ -10,8 +10,8 @@ namespace Ui {
 class frmNotes;
 }
 
-/// The free notes of a contact or of a property in one large text box. Alt+D stamps the date, Alt+S saves, Alt+X and Esc exit;
-/// the close box asks like Exit.
+/// The free notes of a contact or of a property in one large text box. Alt+D stamps the date, Alt+S saves, Alt+X and
+/// Esc exit; the close box asks like Exit.
 class frmNotes : public Form
 {
     Q_OBJECT

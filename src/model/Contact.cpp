@@ -14,6 +14,19 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// The ID of the tree's selected node.
+Long SelectedSub()
+{
+    const auto* tree = Face<TreeFace>::Get();
+    if (tree == nullptr || tree->SelectedKey().isEmpty())
+        throw RunTimeError(ErrorNumber::ObjectNotSet);
+    return GetKey(tree->SelectedKey());
+}
+
+} // namespace
+
 void Contact::LoadFromDB(Recordset& row)
 {
     Trap(u"Class Contact LoadFromDB Error #"_s, Icon::Information, [&] {
@@ -66,9 +79,7 @@ void Contact::LoadProperties()
 Long Contact::AddToDB(std::optional<Long> subCategory) const
 {
     return Trap(u"Class Contact AddToDB Error #"_s, Icon::Information, [&] {
-        auto* tree = Face<TreeFace>::Get();
-        const Long sub = subCategory.value_or(0) != 0 || tree == nullptr ? subCategory.value_or(0)
-                                                                        : GetKey(tree->SelectedKey());
+        const Long sub = subCategory ? *subCategory : SelectedSub();
         const QString between = u"','"_s;
         const QString names = QStringList{FixQuotes(FirstName),  FixQuotes(LastName),  MI,
                                           FixQuotes(FormatName(*this)), FixQuotes(Salutation), FixQuotes(MailAddr1),

@@ -23,14 +23,14 @@ FieldKind KindOf(ContactField field)
     return field == ContactField::MailState ? FieldKind::List : FieldKind::Text;
 }
 
-QString FieldText(const Contact& contact, ContactField field)
+QString ContactText(const Contact& contact, ContactField field)
 {
     if (field == ContactField::MailState)
         return ListEntry(contact.MailState, ListField::State);
     return contact.*MemberOf(field);
 }
 
-void SetFieldText(Contact& contact, ContactField field, const QString& text)
+void SetContactText(Contact& contact, ContactField field, const QString& text)
 {
     if (field == ContactField::MailState)
         contact.MailState = GetIndex(text, ListField::State);

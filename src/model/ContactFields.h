@@ -44,7 +44,7 @@ enum class FieldKind
 [[nodiscard]] FieldKind KindOf(ContactField field);
 
 /// The field as the person sees it; of a list field, the entry.
-[[nodiscard]] QString FieldText(const Contact& contact, ContactField field);
+[[nodiscard]] QString ContactText(const Contact& contact, ContactField field);
 
 /// Takes the field from what the person typed; of a list field, the entry's position, 0 for a text that is none.
-void SetFieldText(Contact& contact, ContactField field, const QString& text);
+void SetContactText(Contact& contact, ContactField field, const QString& text);

@@ -138,8 +138,8 @@ void DeleteContacts(DeleteMode mode)
 void Contact::DeleteFromDB()
 {
     Trap(u"Class Contact DeleteFromDB Error #"_s, Icon::Information, [] {
-        auto* list = Face<ContactListFace>::Get();
-        const Ids ids = list != nullptr ? list->Highlighted() : Ids{};
+        HilitedContacts();
+        const Ids ids = gHilited;
         if (ids.empty())
             return;
         const QString question =
@@ -152,11 +152,15 @@ void Contact::DeleteFromDB()
         }
         for (const Long id : ids)
             ForgetContact(id, ContactAt(id)->CategoryID, curSubIndex);
-        list->RemoveContacts(ids);
+        if (auto* list = Face<ContactListFace>::Get())
+            list->RemoveContacts(ids);
         DeleteRows(ids);
         const Ids alertIDs = ForgetAlerts(ids);
         if (auto* panels = Face<AlertPanelsFace>::Get())
             panels->RemoveAlerts(alertIDs);
+        for (const Long id : ids)
+            gSelected.Remove(id);
+        ShowSelectedCount();
         ShoWait(u"Deleted"_s);
     });
 }

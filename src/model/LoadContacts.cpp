@@ -50,22 +50,29 @@ private:
     const std::function<void(int)>& m_show;
 };
 
-void ReadContacts(Recordset& rows, const std::function<void(int)>& progress)
+/// Takes the current row; false where its place in the tree is gone, and the row with it.
+bool ReadContact(Recordset& rows)
+{
+    curContact = std::make_shared<Contact>();
+    curContact->LoadFromDB(rows);
+    gContacts.Add(rows.Fields("ID"_L1).Get().ToLong(), curContact);
+    if (!CountInTree(*curContact)) {
+        rows.Delete();
+        return false;
+    }
+    curContact->LoadProperties();
+    curContact.reset();
+    return true;
+}
+
+void ReadContacts(Recordset& rows, const std::function<void(int)>& progress, const std::function<void()>& doEvents)
 {
     ProgressSteps steps(rows.RecordCount(), progress);
-    int rowsRead = 0;
-    for (; !rows.Eof(); rows.MoveNext()) {
-        ++rowsRead;
-        curContact = std::make_shared<Contact>();
-        curContact->LoadFromDB(rows);
-        gContacts.Add(rows.Fields("ID"_L1).Get().ToLong(), curContact);
-        if (!CountInTree(*curContact)) {
-            rows.Delete();
-            continue;
-        }
-        curContact->LoadProperties();
-        curContact.reset();
-        steps.Kept(rowsRead);
+    for (int rowsRead = 1; !rows.Eof(); rows.MoveNext(), ++rowsRead) {
+        if (ReadContact(rows))
+            steps.Kept(rowsRead);
+        if (doEvents)
+            doEvents();
     }
 }
 
@@ -77,8 +84,10 @@ void ReadAlerts()
     rows.Open(u"Select * from Alerts"_s, gConn);
     for (; !rows.Eof(); rows.MoveNext()) {
         const Long contactID = rows.Fields("ContactID"_L1).Get().ToLong();
-        gAlerts.Add(u"A"_s + rows.Fields("ID"_L1).Get().Text(), contactID,
-                    CDate(rows.Fields("AlertDate"_L1).Get().Text()),
+        const Value date = rows.Fields("AlertDate"_L1).Get();
+        if (date.IsNull())
+            throw RunTimeError(ErrorNumber::InvalidUseOfNull);
+        gAlerts.Add(u"A"_s + rows.Fields("ID"_L1).Get().Text(), contactID, CDate(date.Text()),
                     SharedText(rows.Fields("AlertNote"_L1).Get().Text()));
         curContact = ContactAt(contactID);
         ++curContact->NumberOfAlerts;
@@ -87,16 +96,17 @@ void ReadAlerts()
 
 } // namespace
 
-void LoadContacts(const std::function<void(int percent)>& progress)
+void LoadContacts(const std::function<void(int percent)>& progress, const std::function<void()>& doEvents)
 {
     Trap(u"LoadContacts Error #"_s, Icon::Information, [&] {
+        const Connection::Reading reading(gConn);
         Recordset rows;
         rows.CursorLocation = CursorLocation::UseClient;
         rows.LockType = LockType::Pessimistic;
         rows.Open(u"Select * from Contacts"_s, gConn);
         if (rows.RecordCount() == 0)
             return;
-        ReadContacts(rows, progress);
+        ReadContacts(rows, progress, doEvents);
         rows.Close();
         ReadAlerts();
     });

@@ -13,7 +13,6 @@ std::vector<Long> gHilited;
 QString gHilitedList;
 Settings gSettings;
 
-QString gReturnValue;
 Long gEditMode = EditMode::ModifyContact;
 Long gAlertMode = 0;
 QString gFocusField;

@@ -2,6 +2,7 @@
 
 #include "core/Dictionary.h"
 #include "core/Types.h"
+#include "core/User.h"
 #include "model/Alerts.h"
 #include "model/SelectedSet.h"
 #include "model/Settings.h"
@@ -28,9 +29,6 @@ extern std::vector<Long> gHilited;
 extern QString gHilitedList;
 /// The one row of settings.
 extern Settings gSettings;
-
-/// The reply of the last modal dialog; "" where the person cancelled ("Cancelled" for frmMove).
-extern QString gReturnValue;
 
 /// What the contact and property screens are doing.
 namespace EditMode {

@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QString>
 #include <memory>
+#include <QString>
 
 class PropDetail;
 
-/// The property curPropertyID of curContact. Raises 91 without a contact; a missing key raises 424, and stays behind in its
-/// Properties as an empty entry.
+/// The property curPropertyID of curContact. Raises 91 without a contact; a missing key raises 424, and stays behind in
+/// its Properties as an empty entry.
 [[nodiscard]] const std::shared_ptr<PropDetail>& CurProperty();
 
 /// That property in words: its MLS number, else where it is located.

@@ -18,7 +18,7 @@ namespace {
 
 QString FlagText(const Value& code)
 {
-    return SharedText(BitToYesNo(code.LongOrZero()).value_or(QString()));
+    return BitToYesNo(code.LongOrZero()).value_or(QString());
 }
 
 /// The code of a flag as the Insert writes it; a text that is no flag gives an empty literal.
@@ -156,9 +156,12 @@ Long PropDetail::LocateProperty(Long contactID) const
     return Trap(u"Class PropDetail LocateProperty Error #"_s, Icon::Information, [&] {
         Long found = 0;
         ContactAt(contactID)->Properties.ForEach([&](Long, const std::shared_ptr<PropDetail>& other) {
-            if (other->Addr1 == Addr1 && other->Addr2 == Addr2 && other->City == City)
+            if (!other)
+                throw RunTimeError(ErrorNumber::ObjectRequired);
+            const bool same = other->Addr1 == Addr1 && other->Addr2 == Addr2 && other->City == City;
+            if (same)
                 found = other->RecID;
-            return found == 0;
+            return !same;
         });
         return found;
     });
@@ -168,7 +171,8 @@ std::shared_ptr<Contact> LocatePropertyOwner(Long propertyID)
 {
     std::shared_ptr<Contact> owner;
     gContacts.ForEach([&](Long, const std::shared_ptr<Contact>& contact) {
-        if (contact && contact->Properties.Exists(propertyID))
+        const auto* property = contact ? contact->Properties.Find(propertyID) : nullptr;
+        if (property != nullptr && *property)
             owner = contact;
         return owner == nullptr;
     });

@@ -92,3 +92,32 @@ void UnSelectCurContact()
         MarkCurContact(false);
     });
 }
+
+void UnselectAll()
+{
+    Trap(u"frmMain mnuUnselectAll_Click Error #"_s, Icon::Critical, [] {
+        if (gSelected.IsEmpty())
+            return;
+        const qsizetype count = gSelected.Count();
+        const QString which = count > 1 ? u"All "_s + CStr(qint64{count}) + u" contacts?"_s
+                                        : FormatName(*ContactAt(gSelected.Last())) + u"?"_s;
+        if (!Confirmed(u"Do you want me to unselect "_s + which))
+            return;
+        const HourGlass hourGlass;
+        while (!gSelected.IsEmpty()) {
+            curContact = ContactAt(gSelected.Last());
+            UnSelectCurContact();
+        }
+    });
+}
+
+qsizetype HilitedContacts()
+{
+    const auto* list = Face<ContactListFace>::Get();
+    gHilited = list != nullptr ? list->Highlighted() : std::vector<Long>{};
+    QStringList ids;
+    for (const Long id : gHilited)
+        ids << CStr(id);
+    gHilitedList = ids.join(u',');
+    return std::ssize(gHilited);
+}

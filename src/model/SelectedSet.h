@@ -33,5 +33,11 @@ void SelectCurContact();
 /// The mirror: takes curContact out of gSelected, and its marks away.
 void UnSelectCurContact();
 
+/// Asks, and on Yes unselects all, the one selected last first.
+void UnselectAll();
+
+/// Counts the highlighted rows of the contact list, and rebuilds gHilited and gHilitedList from them.
+qsizetype HilitedContacts();
+
 /// Brings the third panel of the status bar and the Selected Contacts menu in line with gSelected.
 void ShowSelectedCount();

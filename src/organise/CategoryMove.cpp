@@ -54,6 +54,8 @@ void CategoryTree::MoveNode(Long newParentID)
             const Long oldParentID = GetKey(SelectedParentKey());
             const qsizetype position = LocateSub(CLng(CategoryTreeView::TagOf(node)), oldParentID);
             const std::shared_ptr<Category> sub = CategoryAt(oldParentID)->Sub(position);
+            if (!CategoryAt(newParentID)->Subs)
+                throw RunTimeError(ErrorNumber::ObjectNotSet);
             CategoryAt(newParentID)->Subs->push_back(sub);
             CategoryAt(oldParentID)->Subs->erase(CategoryAt(oldParentID)->Subs->begin() + (position - 1));
             sub->UpdateSubCategory(name, newParentID);
@@ -82,5 +84,6 @@ void CategoryTree::RehangNode(QTreeWidgetItem* node, Long newParentID)
     CategoryTreeView::SetTag(moved, CStr(GetKey(key)));
     parent->setExpanded(true);
     m_tree->setCurrentItem(moved);
+    // The subcategory that is selected now lies in this category.
     curCategoryID = newParentID;
 }

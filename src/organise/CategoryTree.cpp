@@ -150,6 +150,9 @@ void CategoryTree::trvCategories_NodeClick(QTreeWidgetItem* node)
 void CategoryTree::ShowSubContactCount()
 {
     Trap(u"ShowSubContactCount Error #"_s, Icon::Information, [this] {
+        // While a category is selected the current subcategory is none of its own.
+        if (!ItsASub())
+            return;
         const std::shared_ptr<Category>& sub = CurrentSub();
         curContactCount = sub->ContactCount;
         m_window.SetCaption(gSettings.ClientName + ContactsIn(sub->Description));
@@ -233,12 +236,12 @@ void CategoryTree::mnuSubCreate_Click()
 {
     Trap(u"frmMain mnuSubCreate_Click Error #"_s, Icon::Critical, [this] {
         const QString name = AskFor(u"New Subcategory Name"_s);
-        if (!name.isEmpty()) {
-            auto category = std::make_shared<Category>();
-            category->Description = name;
-            category->ParentID = curCategoryID;
-            CreateASubCategory(category, true);
-        }
+        if (name.isEmpty())
+            return;
+        auto category = std::make_shared<Category>();
+        category->Description = name;
+        category->ParentID = curCategoryID;
+        CreateASubCategory(category, true);
         m_tree->setFocus();
     });
 }

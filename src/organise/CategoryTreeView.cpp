@@ -23,6 +23,19 @@ class LabelDelegate : public QStyledItemDelegate
 public:
     explicit LabelDelegate(CategoryTreeView* tree) : QStyledItemDelegate(tree), m_tree(tree) {}
 
+    bool eventFilter(QObject* editor, QEvent* event) override
+    {
+        // Tab ends the edit like Enter. Going on to the next label would rename one node while another is current.
+        const auto* key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event) : nullptr;
+        if (key != nullptr && (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab)) {
+            auto* label = qobject_cast<QWidget*>(editor);
+            Q_EMIT commitData(label);
+            Q_EMIT closeEditor(label);
+            return true;
+        }
+        return QStyledItemDelegate::eventFilter(editor, event);
+    }
+
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
         QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
@@ -123,6 +136,15 @@ void CategoryTreeView::StartLabelEdit()
 {
     if (currentItem() != nullptr)
         editItem(currentItem());
+}
+
+void CategoryTreeView::focusInEvent(QFocusEvent* event)
+{
+    const bool chosen = currentIndex().isValid();
+    QTreeWidget::focusInEvent(event);
+    // The focus alone chooses nothing: what is current was clicked, or moved to by keys.
+    if (!chosen)
+        selectionModel()->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
 }
 
 void CategoryTreeView::mousePressEvent(QMouseEvent* event)

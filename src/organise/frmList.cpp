@@ -130,6 +130,7 @@ void frmList::Form_Activate()
 
 void frmList::Form_Unload(bool&)
 {
+    m_face.reset();
     Trap(u"frmList Form_Unload Error #"_s, Icon::Information, [] {
         if (auto* tree = Face<TreeFace>::Get())
             tree->ShowSubContactCount();
@@ -200,7 +201,7 @@ void frmList::WriteRow(int row)
 {
     int column = firstFieldColumn;
     for (const FieldColumn& field : fieldColumns)
-        m_grid->SetCellText(row, column++, FieldText(*curContact, field.Field));
+        m_grid->SetCellText(row, column++, ContactText(*curContact, field.Field));
 }
 
 void frmList::UpdateContactGridCols()

@@ -3,6 +3,8 @@
 #include "model/faces.h"
 #include "ui/widgets/Form.h"
 
+#include <optional>
+
 class Category;
 class Grid;
 class QAction;
@@ -55,11 +57,14 @@ private:
     void BuildMenu();
     QAction* AddEntry(QMenu* menu, const char* name, const QString& caption, void (frmList::*click)());
     void ConnectGrid();
+    void GridList_ColumnClick(int column);
     void GridList_SelectionChange();
     void GridList_MouseDown();
     void GridList_MouseUp(Qt::MouseButton button, QPoint position);
     void GridList_DblClick(int row, int column);
     void GridList_KeyDown(int code);
+    /// The row under a global position, 0 where there is none.
+    [[nodiscard]] int RowUnder(QPoint position) const;
     void PopUpMenu(QPoint position);
     void mnuContacts_Click();
     void ShowMenuForOne();
@@ -86,14 +91,12 @@ private:
     void ContactMove();
     void MoveContacts(Long categoryID, const Category& target);
 
-    Face<ContactListFace>::Registration m_face{*this};
+    /// Until it is unloaded: what is closed is not there for the others, although it may be deleted only later.
+    std::optional<Face<ContactListFace>::Registration> m_face{*this};
     Grid* m_grid;
     QMenu* m_contactsMenu = nullptr;
     QMenu* m_propertyMenu = nullptr;
 };
-
-/// Counts the highlighted rows of the contact list, and rebuilds gHilited and gHilitedList from them.
-qsizetype HilitedContacts();
 
 /// Shows the contact list beside the main window, loading it where it is not.
 void ShowContactList(QWidget* owner);

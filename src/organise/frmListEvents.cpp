@@ -17,17 +17,6 @@ using namespace Qt::StringLiterals;
 
 // What the keys, the mouse and the menu of the contact list do.
 
-qsizetype HilitedContacts()
-{
-    const auto* list = Face<ContactListFace>::Get();
-    gHilited = list != nullptr ? list->Highlighted() : std::vector<Long>{};
-    QStringList ids;
-    for (const Long id : gHilited)
-        ids << CStr(id);
-    gHilitedList = ids.join(u',');
-    return std::ssize(gHilited);
-}
-
 void frmList::BuildMenu()
 {
     m_contactsMenu = new QMenu(u"Current &Contact"_s, this);
@@ -74,9 +63,17 @@ void frmList::ConnectGrid()
     connect(m_grid, &Grid::MouseUp, this, &frmList::GridList_MouseUp);
     connect(m_grid, &Grid::DblClick, this, &frmList::GridList_DblClick);
     connect(m_grid, &Grid::KeyDown, this, &frmList::GridList_KeyDown);
-    connect(m_grid, &Grid::ColumnClick, this, [this](int column) {
+    connect(m_grid, &Grid::ColumnClick, this, &frmList::GridList_ColumnClick);
+}
+
+void frmList::GridList_ColumnClick(int column)
+{
+    Trap(u"frmList GridList_ColumnClick Error #"_s, Icon::Information, [&] {
+        if (Rows() == 0)
+            return;
         SortGrid(*m_grid, column);
-        m_grid->EnsureVisible(SelectedRow(), 1);
+        m_grid->EnsureVisible(SelectedRow(), column);
+        // Row 1 is the selected row now: were its contact not the current one, a change of it would go to another's row.
         GridList_SelectionChange();
     });
 }
@@ -90,7 +87,8 @@ void frmList::GridList_SelectionChange()
             return;
         curContact = ContactAt(m_grid->RowItemData(row));
         gEditMode = EditMode::Neutral;
-        m_grid->EnsureVisible(row, 1);
+        // Sideways the view stays with the current cell: the columns at the far end are worked like the first.
+        m_grid->EnsureVisible(row, std::max(1, m_grid->SelectedCol()));
         EnableProperties();
     });
 }
@@ -113,7 +111,7 @@ void frmList::GridList_MouseUp(Qt::MouseButton button, QPoint position)
         const int column = m_grid->SelectedCol();
         if (Rows() == 0 || column == 0)
             return;
-        if (m_grid->Column(column).Key == "Checked"_L1) {
+        if (RowUnder(position) > 0 && m_grid->Column(column).Key == "Checked"_L1) {
             if (curContact && curContact->Selected)
                 UnSelectCurContact();
             else
@@ -123,12 +121,18 @@ void frmList::GridList_MouseUp(Qt::MouseButton button, QPoint position)
     });
 }
 
+int frmList::RowUnder(QPoint position) const
+{
+    return m_grid->indexAt(m_grid->viewport()->mapFromGlobal(position)).row() + 1;
+}
+
 void frmList::PopUpMenu(QPoint position)
 {
-    const int row = SelectedRow();
+    const QModelIndex under = m_grid->indexAt(m_grid->viewport()->mapFromGlobal(position));
+    const int row = under.isValid() ? under.row() + 1 : SelectedRow();
+    const int column = under.isValid() ? under.column() + 1 : m_grid->SelectedCol();
     if (row > 0 && gContacts.Exists(m_grid->RowItemData(row)))
         curContact = ContactAt(m_grid->RowItemData(row));
-    const int column = m_grid->SelectedCol();
     const bool onProperties = column > 0 && m_grid->Column(column).Key == "Prop"_L1;
     mnuContacts_Click();
     (onProperties ? m_propertyMenu : m_contactsMenu)->popup(position);
@@ -138,10 +142,15 @@ void frmList::mnuContacts_Click()
 {
     Trap(u"frmList mnuContacts_Click Error #"_s, Icon::Information, [this] {
         const qsizetype count = HilitedContacts();
+        for (const char* name : {"mnuModify", "mnuSelect", "mnuUnselect", "mnuDelete", "mnuMove", "mnuManageAlerts",
+                                 "mnuNewAlert", "mnuNotes"})
+            Entry(name).setEnabled(count > 0);
         if (count >= 2)
             ShowMenuForMany(count);
-        else if (curContact && Rows() > 0)
+        else if (count == 1 && curContact)
             ShowMenuForOne();
+        ShowPropertyCaption();
+        EnableProperties();
     });
 }
 
@@ -163,8 +172,6 @@ void frmList::ShowMenuForOne()
     Entry("mnuNotes").setEnabled(true);
     Entry("mnuSelect").setVisible(!curContact->Selected);
     Entry("mnuUnselect").setVisible(curContact->Selected);
-    ShowPropertyCaption();
-    EnableProperties();
 }
 
 void frmList::ShowMenuForMany(qsizetype count)
@@ -267,7 +274,11 @@ void frmList::mnuUnselect_Click()
 
 void frmList::mnuDelete_Click()
 {
-    Trap(u"frmList mnuDelete_Click Error #"_s, Icon::Information, [] { DeleteContacts(DeleteMode::Hilited); });
+    Trap(u"frmList mnuDelete_Click Error #"_s, Icon::Information, [this] {
+        DeleteContacts(DeleteMode::Hilited);
+        if (Rows() == 0)
+            Unload();
+    });
 }
 
 void frmList::mnuMove_Click()

@@ -68,8 +68,9 @@ void frmList::MoveContacts(Long categoryID, const Category& target)
         for (const Long id : gHilited) {
             const std::shared_ptr<Contact>& contact = ContactAt(id);
             const std::shared_ptr<Category>& category = CategoryAt(contact->CategoryID);
+            Category& sub = *category->Sub(LocateSub(contact->subCategoryID, contact->CategoryID));
             --category->ContactCount;
-            --category->Sub(LocateSub(contact->subCategoryID, contact->CategoryID))->ContactCount;
+            --sub.ContactCount;
             contact->subCategoryID = subCategoryID;
             contact->CategoryID = categoryID;
             ++targetCategory->ContactCount;

@@ -45,7 +45,7 @@ frmMove::frmMove(What what, const QString& caption, const QString& movedName)
     layout->addLayout(buttons);
     m_buttons = std::make_unique<HoverButtonArray>(
         *this, *buttons,
-        std::vector<HoverPicture>{{2, u"Ok"_s, u"&Ok"_s}, {1, u"Cancel"_s, u"&Cancel"_s}});
+        std::vector<HoverPicture>{{2, u"Ok"_s, u"Ok"_s}, {1, u"Cancel"_s, u"Cancel"_s}});
     m_buttons->LoadBitMaps();
     resize(420, 440);
     setMinimumSize(240, 200);
@@ -53,7 +53,11 @@ frmMove::frmMove(What what, const QString& caption, const QString& movedName)
     // A window that is closed by its box has chosen nothing.
     gReturnValue = u"Cancelled"_s;
     connect(m_buttons.get(), &HoverButtonArray::Click, this, &frmMove::cmdButton_Click);
-    connect(m_tree, &QTreeWidget::itemActivated, this, [this] { cmdButton_Click(2); });
+    connect(m_tree, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem* node) {
+        // A category that can't be the target opens and closes by a double click, as in every tree.
+        if (m_what == What::Category || node->parent() != nullptr)
+            cmdButton_Click(2);
+    });
 }
 
 frmMove::~frmMove() = default;

@@ -29,6 +29,8 @@ private Q_SLOTS:
     void AMoveIsRefused();
     void ADoubleClickOpensTheListOrANewContact();
     void OnlyThePersonsClicksChangeTheCurrentNode();
+    void TheFocusAloneChoosesNothing();
+    void TabEndsALabelEdit();
 };
 
 void tst_CategoryTree::AClickTellsTheContactsInTheTitle_data()
@@ -320,6 +322,35 @@ void tst_CategoryTree::OnlyThePersonsClicksChangeTheCurrentNode()
     QTest::keyClick(&desk.View(), Qt::Key_Down);
     QCOMPARE(curSubIndex, 2);
     QVERIFY(desk.Main->windowTitle() != title);
+}
+
+void tst_CategoryTree::TheFocusAloneChoosesNothing()
+{
+    Desk desk;
+    desk.Main->setFocus();
+    desk.View().setFocus(Qt::TabFocusReason);
+    QCOMPARE(desk.Tree->SelectedKey(), QString());
+    QTest::keyClick(&desk.View(), Qt::Key_Delete);
+    QTest::keyClick(&desk.View(), Qt::Key_Return);
+    QVERIFY(desk.Database.TakeStatements().isEmpty());
+    QTest::keyClick(&desk.View(), Qt::Key_Down);
+    QCOMPARE(desk.Tree->SelectedKey(), u"C1"_s);
+    QCOMPARE(curCategoryID, 1);
+}
+
+void tst_CategoryTree::TabEndsALabelEdit()
+{
+    Desk desk;
+    desk.Click(u"C1"_s);
+    desk.Entry(u"mnuCatRename"_s).trigger();
+    auto* editor = desk.View().findChild<QLineEdit*>();
+    QVERIFY(editor != nullptr);
+    editor->setText(u"Purchasers"_s);
+    QTest::keyClick(editor, Qt::Key_Tab);
+    QTest::qWait(0);
+    QCOMPARE(desk.View().FindKey(u"C1"_s)->text(0), u"Purchasers"_s);
+    QCOMPARE(desk.Tree->SelectedKey(), u"C1"_s);
+    QTRY_VERIFY(desk.View().findChild<QLineEdit*>() == nullptr);
 }
 
 QTEST_MAIN(tst_CategoryTree)

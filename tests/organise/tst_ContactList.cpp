@@ -31,6 +31,11 @@ private Q_SLOTS:
     void TheChooserWantsASubcategory();
     void AnEmptyListClosesItselfWhenItComesBack();
     void ShowContactBringsTreeAndListToIt();
+    void AnEmptyListHasNothingToSortOrChange();
+    void AClosedListIsNotThereForTheOthers();
+    void ClosingTheListUnderACategoryTellsNothing();
+    void UnselectingAllAsksFirst_data();
+    void UnselectingAllAsksFirst();
 
 private:
     static void Press(Grid& grid, int row, int column, Qt::MouseButton button = Qt::LeftButton,
@@ -369,6 +374,64 @@ void tst_ContactList::ShowContactBringsTreeAndListToIt()
     Face<ContactListFace>::Get()->FillContactList();
     QCOMPARE(desk.Tree->SelectedKey(), u"S1"_s);
     QCOMPARE(Face<ContactListFace>::Get()->Rows(), 3);
+}
+
+void tst_ContactList::AnEmptyListHasNothingToSortOrChange()
+{
+    Desk desk;
+    Grid& grid = desk.OpenList(u"S1"_s);
+    grid.Clear();
+    Q_EMIT grid.ColumnClick(4);
+    auto& menu = Control<QMenu>(*Forms::Find(u"frmList"_s), u"mnuContacts"_s);
+    Q_EMIT menu.aboutToShow();
+    QVERIFY(!Entry(u"mnuModify"_s).isEnabled());
+    QVERIFY(!Entry(u"mnuDelete"_s).isEnabled());
+    QVERIFY(Entry(u"mnuNew"_s).isEnabled());
+}
+
+void tst_ContactList::AClosedListIsNotThereForTheOthers()
+{
+    Desk desk;
+    desk.OpenList(u"S1"_s);
+    gOpeners.ContactEditor = [] { QVERIFY(Face<ContactListFace>::Get() == nullptr); };
+    desk.Click(u"S3"_s);
+    desk.Tree->trvCategories_DblClick();
+}
+
+void tst_ContactList::ClosingTheListUnderACategoryTellsNothing()
+{
+    Desk desk;
+    desk.OpenList(u"S2"_s);
+    desk.Click(u"C3"_s); // its category has no second subcategory
+    const QString title = desk.Main->windowTitle();
+    Face<ContactListFace>::Get()->UnloadList();
+    QCOMPARE(desk.Main->windowTitle(), title);
+}
+
+void tst_ContactList::UnselectingAllAsksFirst_data()
+{
+    QTest::addColumn<QList<int>>("selected");
+    QTest::addColumn<QString>("question");
+    QTest::newRow("one") << QList<int>{2} << u"Do you want me to unselect Bob M Ray?"_s;
+    QTest::newRow("several") << QList<int>{2, 4} << u"Do you want me to unselect All 2 contacts?"_s;
+}
+
+void tst_ContactList::UnselectingAllAsksFirst()
+{
+    QFETCH(QList<int>, selected);
+    QFETCH(QString, question);
+    Desk desk;
+    for (const int id : selected) {
+        curContact = ContactAt(id);
+        SelectCurContact();
+    }
+    desk.Person.Expect(u"Please Confirm Before I Proceed"_s, question, Answer::No);
+    UnselectAll();
+    QCOMPARE(gSelected.Count(), selected.size());
+    desk.Person.Expect(u"Please Confirm Before I Proceed"_s, question, Answer::Yes);
+    UnselectAll();
+    QVERIFY(gSelected.IsEmpty());
+    QCOMPARE(curContact->RecID, 2); // the earliest selected one is the last to go
 }
 
 QTEST_MAIN(tst_ContactList)

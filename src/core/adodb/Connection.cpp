@@ -44,6 +44,20 @@ void Connection::Execute(const QString& statement)
     }
 }
 
+/// A selection that is not at its end holds the lock. This one has a row whatever the tables hold.
+struct Connection::Reading::Held
+{
+    std::unique_ptr<Engine::Running> Selection;
+};
+
+Connection::Reading::Reading(Connection& connection) : m_held(std::make_unique<Held>())
+{
+    m_held->Selection = connection.OpenEngine().Prepare(u"SELECT EXISTS (SELECT * FROM Settings)"_s, {}, true);
+    (void)m_held->Selection->Step();
+}
+
+Connection::Reading::~Reading() = default;
+
 void Connection::Record(const QString& statement) const
 {
     if (m_recorder)

@@ -1,5 +1,6 @@
 #include "core/adodb/Engine.h"
 
+#include "core/adodb/ColumnList.h"
 #include "core/adodb/StoredText.h"
 #include "core/Convert.h"
 #include "core/Dates.h"
@@ -95,24 +96,21 @@ int Authorize(void*, int action, const char* first, const char* second, const ch
 
 } // namespace
 
-Engine::Running::Running(Engine& engine, sqlite3_stmt* statement, bool kept)
-    : m_engine(engine), m_statement(statement), m_kept(kept)
-{
-}
+Engine::Running::Running(Engine& engine, const Form& form, bool kept) : m_engine(engine), m_form(form), m_kept(kept) {}
 
 Engine::Running::~Running()
 {
     if (m_kept) {
-        sqlite3_reset(m_statement);
-        sqlite3_clear_bindings(m_statement);
+        sqlite3_reset(m_form.Statement);
+        sqlite3_clear_bindings(m_form.Statement);
     } else {
-        sqlite3_finalize(m_statement);
+        sqlite3_finalize(m_form.Statement);
     }
 }
 
 bool Engine::Running::Step()
 {
-    switch (sqlite3_step(m_statement)) {
+    switch (sqlite3_step(m_form.Statement)) {
     case SQLITE_ROW:
         return true;
     case SQLITE_DONE:
@@ -143,8 +141,8 @@ Engine::Engine(const QString& path, const QString& password)
 
 Engine::~Engine()
 {
-    for (sqlite3_stmt* statement : std::as_const(m_kept))
-        sqlite3_finalize(statement);
+    for (const Form& form : std::as_const(m_kept))
+        sqlite3_finalize(form.Statement);
     sqlite3_close_v2(m_database);
 }
 
@@ -188,24 +186,24 @@ QString Engine::Pragma(const char* text) const
 
 std::unique_ptr<Engine::Running> Engine::Prepare(const QString& text, const std::vector<QVariant>& literals, bool keep)
 {
-    sqlite3_stmt* statement = keep ? m_kept.value(text) : nullptr;
+    Form form = keep ? m_kept.value(text) : Form();
     // A form that is still running (a walk inside a walk) can't be used twice at once.
-    if (statement != nullptr && sqlite3_stmt_busy(statement) != 0) {
-        statement = nullptr;
+    if (form.Statement != nullptr && sqlite3_stmt_busy(form.Statement) != 0) {
+        form = {};
         keep = false;
     }
-    if (statement == nullptr) {
-        statement = Compile(text);
+    if (form.Statement == nullptr) {
+        form = Compile(text);
         keep = keep && m_kept.size() < mostKeptForms;
         if (keep)
-            m_kept.insert(text, statement);
+            m_kept.insert(text, form);
     }
-    auto running = std::make_unique<Running>(*this, statement, keep);
-    Bind(statement, literals);
+    auto running = std::make_unique<Running>(*this, form, keep);
+    Bind(form.Statement, literals);
     return running;
 }
 
-sqlite3_stmt* Engine::Compile(const QString& text) const
+Engine::Form Engine::Compile(const QString& text) const
 {
     const QByteArray bytes = ToStored(text);
     sqlite3_stmt* statement = nullptr;
@@ -216,7 +214,7 @@ sqlite3_stmt* Engine::Compile(const QString& text) const
         sqlite3_finalize(statement);
         Raise(ErrorNumber::EngineSyntax, u"Invalid SQL statement; expected 'DELETE', 'INSERT', 'SELECT', or 'UPDATE'."_s);
     }
-    return statement;
+    return {statement, std::make_shared<ColumnList>(statement)};
 }
 
 void Engine::Bind(sqlite3_stmt* statement, const std::vector<QVariant>& literals) const

@@ -64,7 +64,7 @@ void Recordset::Fetch()
     m_table = LockType == ::LockType::ReadOnly ? QString() : translated.UpdatableTable;
     const QString text = m_table.isEmpty() ? translated.Text : WithRowNumber(translated.Text);
     const auto running = engine.Prepare(text, translated.Literals, translated.Reusable);
-    m_rows = std::make_unique<RowPack>(running->Handle(), [&running] { return running->Step(); });
+    m_rows = std::make_unique<RowPack>(running->Handle(), running->Columns(), [&running] { return running->Step(); });
     m_row = 0;
     m_pending.clear();
 }
@@ -123,7 +123,7 @@ void Recordset::Find(const QString& criterion)
     const qsizetype equals = criterion.indexOf(u'=');
     if (equals < 0)
         throw RunTimeError(3001);
-    const int column = FindColumn(QStringView(criterion).left(equals).trimmed());
+    const int column = Asked(m_rows->Columns().Find(QStringView(criterion).left(equals).trimmed()));
     QString wanted = criterion.mid(equals + 1).trimmed();
     if (wanted.size() >= 2 && wanted.startsWith(u'\'') && wanted.endsWith(u'\''))
         wanted = wanted.mid(1, wanted.size() - 2).replace("''"_L1, "'"_L1);
@@ -139,49 +139,37 @@ void Recordset::Find(const QString& criterion)
 int Recordset::FieldCount() const
 {
     RequireOpen();
-    return m_rows->Columns() - (m_table.isEmpty() ? 0 : 1);
+    return m_rows->Columns().Count() - (m_table.isEmpty() ? 0 : 1);
 }
 
 QString Recordset::FieldName(int column) const
 {
-    if (column < 0 || column >= FieldCount())
-        throw RunTimeError(ErrorNumber::ItemNotFound);
-    return m_rows->Column(column).Name;
+    return m_rows->Columns().Name(Asked(column));
 }
 
 Recordset::Field Recordset::Fields(QLatin1StringView name)
 {
     RequireOpen();
-    // Records read their columns mostly in the order of the table: the next one is the best guess.
-    const int next = m_lastColumn + 1;
-    if (next < FieldCount() && m_rows->Column(next).Name.compare(name, Qt::CaseInsensitive) == 0) {
-        m_lastColumn = next;
-        return {*this, next};
-    }
-    return Fields(QString(name));
+    m_lastColumn = Asked(m_rows->Columns().Find(name, m_lastColumn));
+    return {*this, m_lastColumn};
 }
 
 Recordset::Field Recordset::Fields(const QString& name)
 {
     RequireOpen();
-    m_lastColumn = FindColumn(name);
-    return {*this, m_lastColumn};
+    return {*this, Asked(m_rows->Columns().Find(name))};
 }
 
 Recordset::Field Recordset::Fields(int column)
 {
-    if (column < 0 || column >= FieldCount())
-        throw RunTimeError(ErrorNumber::ItemNotFound);
-    return {*this, column};
+    return {*this, Asked(column)};
 }
 
-int Recordset::FindColumn(QStringView name)
+int Recordset::Asked(int column) const
 {
-    for (int i = 0; i < FieldCount(); ++i) {
-        if (m_rows->Column(i).Name.compare(name, Qt::CaseInsensitive) == 0)
-            return i;
-    }
-    throw RunTimeError(ErrorNumber::ItemNotFound);
+    if (column < 0 || column >= FieldCount())
+        throw RunTimeError(ErrorNumber::ItemNotFound);
+    return column;
 }
 
 void Recordset::Update()
@@ -193,7 +181,7 @@ void Recordset::Update()
     QString text = u"UPDATE [%1] SET "_s.arg(m_table);
     std::vector<QVariant> values;
     for (const auto& [column, value] : m_pending) {
-        text += u"%1[%2]=?"_s.arg(values.empty() ? QString() : u", "_s, m_rows->Column(column).Name);
+        text += u"%1[%2]=?"_s.arg(values.empty() ? QString() : u", "_s, m_rows->Columns().Name(column));
         values.push_back(ToLiteral(value));
     }
     values.push_back(RowId());
@@ -250,5 +238,5 @@ void Recordset::RequireUpdatable() const
 
 qint64 Recordset::RowId() const
 {
-    return m_rows->At(m_row, m_rows->Columns() - 1).Text().toLongLong();
+    return m_rows->At(m_row, m_rows->Columns().Count() - 1).Text().toLongLong();
 }

@@ -100,7 +100,8 @@ private:
     void RequireRow() const;
     void RequireUpdatable() const;
     [[nodiscard]] qint64 RowId() const;
-    [[nodiscard]] int FindColumn(QStringView name);
+    /// The column where it is one of those that were asked for. Raises 3265 otherwise.
+    [[nodiscard]] int Asked(int column) const;
 
     Connection* m_connection = nullptr;
     QString m_statement;

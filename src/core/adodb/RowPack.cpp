@@ -18,18 +18,6 @@ constexpr char wholeMark = 1;
 constexpr char realMark = 2;
 constexpr char textMark = 3;
 
-ColumnKind KindOf(const char* declaredType)
-{
-    const QByteArray type = QByteArray(declaredType).toUpper();
-    if (type.startsWith("INTEGER") || type == "LONG")
-        return ColumnKind::Whole;
-    if (type == "CURRENCY")
-        return ColumnKind::Currency;
-    if (type.startsWith("REAL"))
-        return ColumnKind::Real;
-    return ColumnKind::Text;
-}
-
 template <typename Number>
 void Append(std::vector<char>& bytes, char mark, Number payload)
 {
@@ -78,21 +66,10 @@ Value WholeValue(qint64 number, ColumnKind kind)
 
 } // namespace
 
-RowPack::RowPack(sqlite3_stmt* statement)
-{
-    auto columns = std::make_shared<ColumnList>();
-    const int count = sqlite3_column_count(statement);
-    columns->reserve(static_cast<size_t>(count));
-    for (int i = 0; i < count; ++i)
-        columns->push_back({QString::fromUtf8(sqlite3_column_name(statement, i)),
-                            KindOf(sqlite3_column_decltype(statement, i))});
-    m_columns = std::move(columns);
-}
-
 void RowPack::AppendRow(sqlite3_stmt* statement)
 {
     m_rowStarts.push_back(m_bytes.size());
-    const int count = Columns();
+    const int count = m_columns->Count();
     for (int i = 0; i < count; ++i) {
         switch (sqlite3_column_type(statement, i)) {
         case SQLITE_INTEGER:
@@ -118,7 +95,7 @@ void RowPack::LocateCells(qsizetype row) const
 {
     m_cellStarts.clear();
     size_t position = m_rowStarts[static_cast<size_t>(row)];
-    for (int i = 0; i < Columns(); ++i) {
+    for (int i = 0; i < m_columns->Count(); ++i) {
         m_cellStarts.push_back(position);
         switch (m_bytes[position]) {
         case nullMark:
@@ -143,7 +120,7 @@ Value RowPack::At(qsizetype row, int column) const
     if (m_locatedRow != row)
         LocateCells(row);
     const char* cell = m_bytes.data() + m_cellStarts[static_cast<size_t>(column)];
-    const ColumnKind kind = Column(column).Kind;
+    const ColumnKind kind = m_columns->Kind(column);
     switch (cell[0]) {
     case wholeMark:
         return WholeValue(Read<qint64>(cell + 1), kind);

@@ -32,6 +32,15 @@ bool IsStoredSurrogate(const char* bytes, qsizetype left)
     return left >= 3 && byte(0) == 0xED && byte(1) >= 0xA0 && byte(1) <= 0xBF && (byte(2) & 0xC0) == 0x80;
 }
 
+/// The toolkit takes a mark at the very start for the byte order's and drops it; here it is a letter like any other.
+QString FromUtf8(const char* bytes, qsizetype length)
+{
+    QString text = QString::fromUtf8(bytes, length);
+    if (std::string_view(bytes, static_cast<size_t>(length)).starts_with("\xEF\xBB\xBF"))
+        text.prepend(QChar(QChar::ByteOrderMark));
+    return text;
+}
+
 } // namespace
 
 QByteArray ToStored(const QString& text)
@@ -58,16 +67,16 @@ QByteArray ToStored(const QString& text)
 QString FromStored(const char* bytes, qsizetype length)
 {
     if (std::string_view(bytes, static_cast<size_t>(length)).find('\xED') == std::string_view::npos)
-        return QString::fromUtf8(bytes, length);
+        return FromUtf8(bytes, length);
     QString text;
     qsizetype from = 0;
     for (qsizetype i = 0; i < length; ++i) {
         if (!IsStoredSurrogate(bytes + i, length - i))
             continue;
-        text += QString::fromUtf8(bytes + from, i - from);
+        text += FromUtf8(bytes + from, i - from);
         text += QChar(static_cast<char16_t>(0xD000 | ((bytes[i + 1] & 0x3F) << 6) | (bytes[i + 2] & 0x3F)));
         i += 2;
         from = i + 1;
     }
-    return text + QString::fromUtf8(bytes + from, length - from);
+    return text + FromUtf8(bytes + from, length - from);
 }

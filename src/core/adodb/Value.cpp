@@ -12,6 +12,9 @@ struct Match : Cases...
 {
     using Cases::operator()...;
 };
+// clang 14 does not deduce an aggregate by itself.
+template <typename... Cases>
+Match(Cases...) -> Match<Cases...>;
 
 [[noreturn]] void RaiseNull()
 {

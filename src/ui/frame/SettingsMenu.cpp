@@ -93,6 +93,7 @@ void SettingsMenu::ChangeTitle(const QString& name)
     QString rest = m_window.windowTitle();
     if (rest.startsWith(gSettings.ClientName))
         rest.remove(0, gSettings.ClientName.size());
+    m_window.SetCaption(rest);
     SetClientName(name);
     m_window.SetCaption(name + rest);
 }

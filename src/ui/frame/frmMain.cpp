@@ -105,6 +105,8 @@ void frmMain::ShoWait(const std::optional<QString>& message)
         SetPanel(1, *message);
     ShowSelectedCount();
     SetPanel(2, gContacts.IsEmpty() ? u"No contacts"_s : u"Total contacts: "_s + CStr(qint64{gContacts.Count()}));
+    // A long loop may follow that lets nothing be painted.
+    m_panels->repaint();
 }
 
 void frmMain::SetCaption(const QString& caption)

@@ -1,0 +1,15 @@
+#pragma once
+
+// The figures. Each is run as "Figure/program/N" and "Figure/yardstick/N" for N contacts.
+
+/// Everything read from the file, against the bare loop.
+void RegisterLoad(int contacts);
+/// Peak memory beyond the same program without contacts, in processes of their own.
+void RegisterMemory(int contacts);
+/// From the start of a process to a main window that answers, against the bare load and the start of an empty window.
+void RegisterStart(int contacts);
+/// One new contact: the Insert and the reading back of its number.
+void RegisterNewContact(int contacts);
+/// The contact list with all contacts in it; opened on a twentieth of all contacts; and a twentieth of its rows, spread
+/// over all of it, deleted. Against plain walks and the bare deletion.
+void RegisterLists(int contacts);

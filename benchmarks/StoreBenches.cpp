@@ -1,0 +1,154 @@
+#include "BareStore.h"
+#include "Benches.h"
+#include "Child.h"
+#include "core/adodb/Connection.h"
+#include "model/Category.h"
+#include "model/Contact.h"
+#include "model/Main.h"
+#include "Program.h"
+#include "Samples.h"
+
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::string SampleFile(int contacts)
+{
+    return DatabaseIn(SampleFolder(contacts)).toStdString();
+}
+
+/// The key takes a twentieth of a second to derive, on purpose: opening stands in the start's figure, not here.
+void Load(benchmark::State& state)
+{
+    for ([[maybe_unused]] auto _ : state) {
+        state.PauseTiming();
+        OpenProgram(SampleFolder(static_cast<int>(state.range())));
+        state.ResumeTiming();
+        LoadProgram();
+        state.PauseTiming();
+        if (gContacts.Count() != state.range())
+            state.SkipWithError("not all contacts were loaded");
+        CloseProgram();
+        state.ResumeTiming();
+    }
+}
+
+void BareLoad(benchmark::State& state)
+{
+    const BareStore store(SampleFile(static_cast<int>(state.range())));
+    for ([[maybe_unused]] auto _ : state) {
+        BareContents contents = store.Load();
+        state.PauseTiming();
+        if (std::ssize(contents.contacts) != state.range())
+            state.SkipWithError("not all contacts were loaded");
+        contents = {};
+        state.ResumeTiming();
+    }
+}
+
+void Memory(benchmark::State& state, const QString& task)
+{
+    for ([[maybe_unused]] auto _ : state) {
+        const auto contacts = static_cast<int>(state.range());
+        const double empty = RunChild(task, SampleFolder(0)).PeakBytes;
+        const double full = RunChild(task, SampleFolder(contacts)).PeakBytes;
+        state.counters["bytes"] = (full - empty) / contacts;
+        state.SetIterationTime(1);
+    }
+}
+
+void Start(benchmark::State& state)
+{
+    for ([[maybe_unused]] auto _ : state)
+        state.SetIterationTime(RunChild(u"start"_s, SampleFolder(static_cast<int>(state.range()))).StartSeconds);
+}
+
+void BareStart(benchmark::State& state)
+{
+    for ([[maybe_unused]] auto _ : state) {
+        const double window = RunChild(u"empty-window"_s).StartSeconds;
+        const double load = RunChild(u"bare-load"_s, SampleFolder(static_cast<int>(state.range()))).OwnSeconds;
+        state.SetIterationTime(window + load);
+    }
+}
+
+/// The middle one of many additions: a disk that others write to as well makes some of them wait.
+template <typename Add>
+double MedianSeconds(const Add& add)
+{
+    constexpr int times = 51;
+    std::vector<double> seconds;
+    for (int i = 0; i < times; ++i) {
+        const auto begin = std::chrono::steady_clock::now();
+        add(i);
+        seconds.push_back(std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count());
+    }
+    std::ranges::nth_element(seconds, seconds.begin() + times / 2);
+    return seconds[times / 2];
+}
+
+void NewContact(benchmark::State& state)
+{
+    const SampleCopy copy(static_cast<int>(state.range()));
+    OpenProgram(copy.Folder());
+    Contact contact;
+    contact.FirstName = u"Benjamin"_s;
+    contact.MailAddr1 = u"12 Benchmark Road"_s;
+    contact.CategoryID = 1;
+    for ([[maybe_unused]] auto _ : state) {
+        state.SetIterationTime(MedianSeconds([&](int i) {
+            contact.LastName = u"Mark"_s + QString::number(i);
+            if (contact.AddToDB(1) == 0)
+                state.SkipWithError("the contact was not added");
+        }));
+    }
+    CloseProgram();
+}
+
+void BareNewContact(benchmark::State& state)
+{
+    const SampleCopy copy(static_cast<int>(state.range()));
+    const BareStore store(DatabaseIn(copy.Folder()).toStdString());
+    for ([[maybe_unused]] auto _ : state) {
+        state.SetIterationTime(MedianSeconds([&](int i) {
+            if (store.AddContact("Benjamin", "Mark" + std::to_string(i)) == 0)
+                state.SkipWithError("the contact was not added");
+        }));
+    }
+}
+
+} // namespace
+
+void RegisterLoad(int contacts)
+{
+    benchmark::RegisterBenchmark("Load/program", Load)->Arg(contacts)->Iterations(1);
+    benchmark::RegisterBenchmark("Load/yardstick", BareLoad)->Arg(contacts)->Iterations(1);
+}
+
+void RegisterMemory(int contacts)
+{
+    const auto add = [contacts](const char* name, const QString& task) {
+        benchmark::RegisterBenchmark(name, [task](benchmark::State& state) { Memory(state, task); })
+            ->Arg(contacts)
+            ->Iterations(1)
+            ->UseManualTime();
+    };
+    add("Memory/program", u"load"_s);
+    add("Memory/yardstick", u"bare-load"_s);
+}
+
+void RegisterStart(int contacts)
+{
+    benchmark::RegisterBenchmark("Start/program", Start)->Arg(contacts)->Iterations(1)->UseManualTime();
+    benchmark::RegisterBenchmark("Start/yardstick", BareStart)->Arg(contacts)->Iterations(1)->UseManualTime();
+}
+
+void RegisterNewContact(int contacts)
+{
+    benchmark::RegisterBenchmark("NewContact/program", NewContact)->Arg(contacts)->Iterations(1)->UseManualTime();
+    benchmark::RegisterBenchmark("NewContact/yardstick", BareNewContact)->Arg(contacts)->Iterations(1)->UseManualTime();
+}
