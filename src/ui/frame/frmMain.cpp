@@ -44,7 +44,6 @@ frmMain::frmMain()
     layout->addWidget(m_tabs);
     layout->addWidget(m_panels);
     resize(1100, 680);
-    setMinimumSize(480, 320);
 
     m_clock = new ClockPanel(*m_panels, *m_menus, this);
     new SettingsMenu(*this);
