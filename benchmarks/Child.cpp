@@ -21,10 +21,11 @@ ChildReport RunChild(const QString& task, const QString& folder)
     report.StartSeconds = static_cast<double>(clock.nsecsElapsed()) / 1e9;
     const QList<QByteArray> words = child.readLine().simplified().split(' ');
     child.waitForFinished(patience);
-    if (words.size() != 2 || child.exitCode() != 0)
+    if (words.size() != 3 || child.exitCode() != 0)
         qFatal("bench_child %s %s gave no answer: %s", qPrintable(task), qPrintable(folder),
                child.readAllStandardError().constData());
     report.OwnSeconds = words[0].toDouble();
-    report.PeakBytes = words[1].toDouble() * 1024;
+    report.LoadSeconds = words[1].toDouble();
+    report.PeakBytes = words[2].toDouble() * 1024;
     return report;
 }

@@ -2,9 +2,7 @@
 #include "Benches.h"
 #include "Child.h"
 #include "core/adodb/Connection.h"
-#include "model/Category.h"
 #include "model/Contact.h"
-#include "model/Main.h"
 #include "Program.h"
 #include "Samples.h"
 
@@ -16,38 +14,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::string SampleFile(int contacts)
+/// In a process of its own, as a person's load is: in one that has loaded before, the memory's state decides. The key
+/// takes a twentieth of a second to derive, on purpose: opening stands in the start's figure, not here.
+void Load(benchmark::State& state, const QString& task)
 {
-    return DatabaseIn(SampleFolder(contacts)).toStdString();
-}
-
-/// The key takes a twentieth of a second to derive, on purpose: opening stands in the start's figure, not here.
-void Load(benchmark::State& state)
-{
-    for ([[maybe_unused]] auto _ : state) {
-        state.PauseTiming();
-        OpenProgram(SampleFolder(static_cast<int>(state.range())));
-        state.ResumeTiming();
-        LoadProgram();
-        state.PauseTiming();
-        if (gContacts.Count() != state.range())
-            state.SkipWithError("not all contacts were loaded");
-        CloseProgram();
-        state.ResumeTiming();
-    }
-}
-
-void BareLoad(benchmark::State& state)
-{
-    const BareStore store(SampleFile(static_cast<int>(state.range())));
-    for ([[maybe_unused]] auto _ : state) {
-        BareContents contents = store.Load();
-        state.PauseTiming();
-        if (std::ssize(contents.contacts) != state.range())
-            state.SkipWithError("not all contacts were loaded");
-        contents = {};
-        state.ResumeTiming();
-    }
+    for ([[maybe_unused]] auto _ : state)
+        state.SetIterationTime(RunChild(task, SampleFolder(static_cast<int>(state.range()))).LoadSeconds);
 }
 
 void Memory(benchmark::State& state, const QString& task)
@@ -121,24 +93,29 @@ void BareNewContact(benchmark::State& state)
     }
 }
 
-} // namespace
-
-void RegisterLoad(int contacts)
+/// A figure of the two loading tasks.
+void RegisterTasks(const std::string& figure, int contacts, void (*measure)(benchmark::State&, const QString&))
 {
-    benchmark::RegisterBenchmark("Load/program", Load)->Arg(contacts)->Iterations(1);
-    benchmark::RegisterBenchmark("Load/yardstick", BareLoad)->Arg(contacts)->Iterations(1);
-}
-
-void RegisterMemory(int contacts)
-{
-    const auto add = [contacts](const char* name, const QString& task) {
-        benchmark::RegisterBenchmark(name, [task](benchmark::State& state) { Memory(state, task); })
+    const auto add = [&](const char* side, const QString& task) {
+        benchmark::RegisterBenchmark((figure + side).c_str(), [=](benchmark::State& state) { measure(state, task); })
             ->Arg(contacts)
             ->Iterations(1)
             ->UseManualTime();
     };
-    add("Memory/program", u"load"_s);
-    add("Memory/yardstick", u"bare-load"_s);
+    add("/program", u"load"_s);
+    add("/yardstick", u"bare-load"_s);
+}
+
+} // namespace
+
+void RegisterLoad(int contacts)
+{
+    RegisterTasks("Load", contacts, Load);
+}
+
+void RegisterMemory(int contacts)
+{
+    RegisterTasks("Memory", contacts, Memory);
 }
 
 void RegisterStart(int contacts)
