@@ -19,6 +19,7 @@
 #include <fstream>
 #include <QApplication>
 #include <QEvent>
+#include <QMessageBox>
 #include <QTimer>
 #include <QWidget>
 #include <string>
@@ -57,6 +58,8 @@ public:
 protected:
     bool eventFilter(QObject* object, QEvent* event) override
     {
+        if (const auto* box = qobject_cast<QMessageBox*>(object); box != nullptr && event->type() == QEvent::Show)
+            qFatal("%s", qPrintable(box->text())); // nobody is there to answer it
         if (event->type() == QEvent::Paint && object->objectName() == m_window && !m_seen) {
             m_seen = true;
             QTimer::singleShot(0, this, [] {

@@ -11,12 +11,12 @@
 #include "ui/widgets/Pictures.h"
 #include "ui/widgets/UserWindows.h"
 
+#include <cstdlib>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QProgressBar>
 #include <QVBoxLayout>
-#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
@@ -56,7 +56,7 @@ void frmSplash::BuildWindow()
     m_bar->setRange(0, 100);
     m_bar->setTextVisible(false);
     layout->addWidget(m_bar);
-    setFixedSize(380, 300);
+    setFixedSize(layout->sizeHint().expandedTo(QSize(380, 300)));
 }
 
 void frmSplash::Form_Activate()
@@ -93,7 +93,8 @@ void frmSplash::OpenDatabase()
 {
     if (gConn.State() == ObjectState::Open)
         return;
-    gConn.Open(u"Driver={Microsoft Access Driver (*.mdb)};Dbq="_s + gAppPath + u"\\Data\\Contacts.mdb;Password=kostrevy48"_s);
+    gConn.Open(u"Driver={Microsoft Access Driver (*.mdb)};Dbq="_s + gAppPath +
+               u"\\Data\\Contacts.mdb;Password=kostrevy48"_s);
 }
 
 void frmSplash::EndWherePrevInstance()

@@ -1,6 +1,7 @@
 #include "editors/SheetEditor.h"
 
 #include "editors/OneLine.h"
+#include "editors/SheetAccess.h"
 #include "model/Lists.h"
 #include "ui/widgets/Grid.h"
 #include "ui/widgets/KeyCodes.h"
@@ -10,6 +11,7 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
@@ -42,6 +44,7 @@ void PaintAsEdit(QWidget& control)
 
 SheetEditor::SheetEditor(std::vector<SheetRow> rows, QWidget* parent) : QWidget(parent), m_rows(std::move(rows))
 {
+    InstallSheetAccess();
     // The order of making is the order of Tab.
     m_txtFirst = AddSentinel(u"txtFirst"_s);
     AddGrid();
@@ -95,6 +98,10 @@ void SheetEditor::AddControl(int row)
     if (rule.Control.startsWith("cbo"_L1)) {
         auto* list = new QComboBox(m_grid->viewport());
         list->addItems(ListEntries(rule.List));
+        // A screen reader takes what a list shows for its name, and asks a label what it is for.
+        auto* label = new QLabel(rule.Label, m_grid->viewport());
+        label->setBuddy(list);
+        label->hide();
         control = list;
     } else {
         auto* field = new QLineEdit(m_grid->viewport());

@@ -15,6 +15,7 @@
 
 #include <QKeyEvent>
 #include <QShortcut>
+#include <QtMath>
 
 using namespace Qt::StringLiterals;
 
@@ -50,6 +51,7 @@ frmNotes::frmNotes() : Form(u"frmNotes"_s), m_ui(std::make_unique<Ui::frmNotes>(
     m_scaler->SaveSizes();
     LoadBitMaps();
     AddKeys();
+    FitCaptions();
     Form_Load();
     m_ui->txtNotes->installEventFilter(this);
     // Whatever changes the text without a key, a paste with the mouse say, must not be lost either.
@@ -99,6 +101,21 @@ void frmNotes::AddKeys()
     on(u"Alt+X"_s, [this] { cmdButton_Click(ExitButton); });
     m_buttons->Button(SaveButton)->setToolTip(u"Save (Alt+S)"_s);
     m_buttons->Button(ExitButton)->setToolTip(u"Exit (Alt+X)"_s);
+}
+
+void frmNotes::FitCaptions()
+{
+    qreal across = 1;
+    qreal down = 1;
+    for (const QAbstractButton* button : findChildren<QAbstractButton*>()) {
+        const QSize needed = button->sizeHint();
+        across = std::max(across, qreal(needed.width()) / button->width());
+        down = std::max(down, qreal(needed.height()) / button->height());
+    }
+    resize(qCeil(width() * across), qCeil(height() * down));
+    // Below this the letters, which shrink too, would be hard to read.
+    constexpr qreal smallest = 0.86;
+    setMinimumSize(qCeil(width() * smallest), qCeil(height() * smallest));
 }
 
 // The text. A break is one character in the box, CR LF in the store.

@@ -31,6 +31,8 @@ private:
     void Form_Load();
     void LoadBitMaps();
     void AddKeys();
+    /// Makes the window large enough for the captions of its buttons, which scale with it.
+    void FitCaptions();
     void picStamp_Click();
     void DateStamp();
     void cmdButton_Click(int index);

@@ -47,6 +47,7 @@ CategoryTree::CategoryTree(frmMain& window) : m_window(window), m_tree(new Categ
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 8, 8, 8);
     layout->addWidget(m_tree);
+    setFocusProxy(m_tree);
     setMinimumWidth(180);
 
     connect(m_tree, &CategoryTreeView::NodeClick, this, [this] { trvCategories_NodeClick(Selected()); });
@@ -202,7 +203,8 @@ void CategoryTree::ShowSubcategoryMenu()
     move.setEnabled(true);
     QAction& view = menus.Entry(u"mnuViewContacts"_s);
     view.setText(MenuText(u"View "_s + name + u"'s Contacts"_s));
-    view.setEnabled(CategoryAt(CLng(CategoryTreeView::TagOf(Selected()->parent())))->Sub(curSubIndex)->ContactCount > 0);
+    view.setEnabled(CategoryAt(CLng(CategoryTreeView::TagOf(Selected()->parent())))->Sub(curSubIndex)->ContactCount >
+                    0);
     QAction& newContact = menus.Entry(u"mnuNewContact"_s);
     newContact.setText(MenuText(u"New Contact Under "_s + name));
     newContact.setEnabled(true);
@@ -257,9 +259,8 @@ bool CategoryTree::trvCategories_AfterLabelEdit(const QString& newText)
             if (!ItsASub()) {
                 CategoryAt(curCategoryID)->UpdateCategory(newText);
             } else if (ExistSub(newText) > 0) {
-                MsgBox(u"I did not rename "_s + SelectedText() +
-                           u" because I found\r\nanother subcategory named "_s + newText + u" in "_s +
-                           CategoryAt(curCategoryID)->Description + u"."_s,
+                MsgBox(u"I did not rename "_s + SelectedText() + u" because I found\r\nanother subcategory named "_s +
+                           newText + u" in "_s + CategoryAt(curCategoryID)->Description + u"."_s,
                        Buttons::Ok, Icon::Information, u"Rename Cancelled"_s);
                 ShoWait(u"Rename Cancelled"_s);
                 return;

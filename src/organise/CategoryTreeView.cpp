@@ -3,12 +3,12 @@
 #include "core/RunTimeError.h"
 #include "ui/widgets/KeyCodes.h"
 
+#include <algorithm>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QStyledItemDelegate>
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -41,12 +41,6 @@ public:
         QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
         editor->setAccessibleName(u"Name"_s);
         return editor;
-    }
-
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
-    {
-        constexpr int air = 6;
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, air);
     }
 
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override

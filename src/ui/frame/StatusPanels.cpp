@@ -6,10 +6,16 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// What a screen reader calls the panels.
+constexpr std::array names{"Status"_L1, "Contacts"_L1, "Selected contacts"_L1, "Date"_L1, "Clock"_L1};
+
+} // namespace
+
 StatusPanels::StatusPanels(QWidget* parent) : QStatusBar(parent)
 {
     setObjectName(u"StatusBar1"_s);
-    static constexpr std::array names{"Status"_L1, "Contacts"_L1, "Selected contacts"_L1, "Date"_L1, "Clock"_L1};
     for (int i = 0; i < PanelCount; ++i) {
         auto* panel = new QLabel(this);
         panel->setObjectName(u"Panel%1"_s.arg(i + 1));
@@ -28,7 +34,10 @@ StatusPanels::StatusPanels(QWidget* parent) : QStatusBar(parent)
 
 void StatusPanels::SetText(int panel, const QString& text)
 {
-    m_panels.at(static_cast<size_t>(panel - 1))->setText(text);
+    const auto index = static_cast<size_t>(panel - 1);
+    m_panels.at(index)->setText(text);
+    // A label with a name of its own is read by that alone.
+    m_panels[index]->setAccessibleName(u"%1: %2"_s.arg(QString(names[index]), text));
 }
 
 QString StatusPanels::Text(int panel) const

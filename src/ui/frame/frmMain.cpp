@@ -23,8 +23,10 @@
 using namespace Qt::StringLiterals;
 
 frmMain::frmMain()
-    : Form(u"frmMain"_s), m_panels(new StatusPanels(this)), m_tabs(new QTabWidget(this)),
-      m_contactsPage(new QSplitter(Qt::Horizontal))
+    : Form(u"frmMain"_s)
+    , m_panels(new StatusPanels(this))
+    , m_tabs(new QTabWidget(this))
+    , m_contactsPage(new QSplitter(Qt::Horizontal))
 {
     auto* bar = new QMenuBar(this);
     m_menus = std::make_unique<Menus>(*bar);
@@ -48,7 +50,8 @@ frmMain::frmMain()
     new SettingsMenu(*this);
     m_menus->PlugOpener(u"mnuContact"_s, this, gOpeners.Feedback);
     m_menus->Plug(u"mnuExit"_s, this, [this] { Unload(); });
-    connect(m_tabs, &QTabWidget::currentChanged, this, [this](int tab) { SSTab1_Click(std::exchange(m_currentTab, tab)); });
+    connect(m_tabs, &QTabWidget::currentChanged, this,
+            [this](int tab) { SSTab1_Click(std::exchange(m_currentTab, tab)); });
     Form_Load();
 }
 
@@ -86,6 +89,9 @@ void frmMain::Form_Unload(bool&)
 void frmMain::AddContactsPanel(QWidget* panel, int stretch)
 {
     m_contactsPage->addWidget(panel);
+    // The first panel is where the person begins.
+    if (m_contactsPage->count() == 1)
+        panel->setFocus();
     m_contactsPage->setStretchFactor(m_contactsPage->count() - 1, stretch);
 }
 

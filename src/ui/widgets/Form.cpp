@@ -3,6 +3,7 @@
 #include "ui/widgets/Forms.h"
 #include "ui/widgets/NormalCursor.h"
 
+#include <QAccessibleWidget>
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QKeyEvent>
@@ -12,8 +13,31 @@
 #include <QTimer>
 #include <QWindow>
 
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A window as a screen reader announces it: by its title, and as a dialog where it waits for an answer.
+class FormAccess final : public QAccessibleWidget
+{
+public:
+    explicit FormAccess(Form* form) : QAccessibleWidget(form) {}
+
+    QAccessible::Role role() const override { return widget()->isModal() ? QAccessible::Dialog : QAccessible::Window; }
+};
+
+QAccessibleInterface* NewFormAccess(const QString& className, QObject* object)
+{
+    auto* form = className == "Form"_L1 ? qobject_cast<Form*>(object) : nullptr;
+    return form != nullptr ? new FormAccess(form) : nullptr;
+}
+
+} // namespace
+
 Form::Form(const QString& name, Qt::WindowFlags flags) : QWidget(nullptr, flags)
 {
+    // A factory that is there already is not installed twice.
+    QAccessible::installFactory(NewFormAccess);
     setObjectName(name);
     Forms::Add(this);
 }

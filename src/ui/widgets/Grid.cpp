@@ -89,7 +89,10 @@ int Grid::AddColumn(const GridColumn& column)
 {
     m_model->AddColumn(column);
     const int section = Columns() - 1;
-    setColumnWidth(section, column.Width);
+    // In large letters a declared width may be too small for the header.
+    const int words = horizontalHeader()->fontMetrics().horizontalAdvance(column.Header);
+    const int margins = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, horizontalHeader());
+    setColumnWidth(section, column.Width > 0 && words > 0 ? std::max(column.Width, words + margins) : column.Width);
     setColumnHidden(section, !column.Visible);
     m_sortOrders.push_back(0);
     return Columns();

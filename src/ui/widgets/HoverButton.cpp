@@ -35,8 +35,9 @@ void HoverButton::SetPicture(const QString& name)
 void HoverButton::SetCaption(const QString& caption)
 {
     setText(caption);
-    setAccessibleName(caption);
-    setToolTip(caption);
+    const QString words = QString(caption).remove(u'&');
+    setAccessibleName(words);
+    setToolTip(words);
     updateGeometry();
 }
 
@@ -60,8 +61,7 @@ QSize HoverButton::sizeHint() const
 {
     const QSize picture = m_picture.isEmpty() ? QSize(0, 0) : PictureSize;
     const QFontMetrics metrics(font());
-    const QSize caption =
-        text().isEmpty() ? QSize(0, 0) : QSize(metrics.horizontalAdvance(text()) + 2, metrics.height());
+    const QSize caption = text().isEmpty() ? QSize(0, 0) : metrics.size(Qt::TextShowMnemonic, text()) + QSize(2, 0);
     const int gap = picture.isEmpty() || caption.isEmpty() ? 0 : Gap;
     const QSize inner = m_captionBeside
                             ? QSize(picture.width() + gap + caption.width(), qMax(picture.height(), caption.height()))
@@ -97,7 +97,9 @@ void HoverButton::paintEvent(QPaintEvent*)
     const bool active = isEnabled() && (m_lit || isDown());
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled,
                                    active ? QPalette::Link : QPalette::WindowText));
-    painter.drawText(caption, (m_captionBeside ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter, text());
+    painter.drawText(caption,
+                     (m_captionBeside ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter | Qt::TextShowMnemonic,
+                     text());
     if (hasFocus()) {
         painter.setPen(QPen(palette().color(QPalette::Active, QPalette::Highlight), 1.5));
         painter.setBrush(Qt::NoBrush);

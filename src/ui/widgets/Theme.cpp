@@ -6,6 +6,7 @@
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleOption>
+#include <QTableView>
 
 using namespace Qt::StringLiterals;
 
@@ -56,6 +57,25 @@ public:
         default:
             return QProxyStyle::pixelMetric(metric, option, widget);
         }
+    }
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* result) const override
+    {
+        // A list drops down under its field; as a menu it would cover the screen from top to bottom.
+        if (hint == SH_ComboBox_Popup)
+            return 0;
+        return QProxyStyle::styleHint(hint, option, widget, result);
+    }
+
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                           const QWidget* widget) const override
+    {
+        const QSize needed = QProxyStyle::sizeFromContents(type, option, size, widget);
+        constexpr int air = 6;
+        // The rows of a table have a height of their own.
+        const bool inList = type == CT_ItemViewItem && qobject_cast<const QTableView*>(widget) == nullptr;
+        return inList ? needed + QSize(0, air) : needed;
     }
 
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

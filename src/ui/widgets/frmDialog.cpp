@@ -24,7 +24,8 @@ frmDialog::frmDialog(const QString& caption, int maxLength)
     if (maxLength > 0)
         m_ui->txtInput->setMaxLength(maxLength);
     const int room = screen()->availableSize().width() - 40;
-    setMinimumWidth(std::min(fontMetrics().horizontalAdvance(caption) + TitleBarRoom, room));
+    const int title = std::min(fontMetrics().horizontalAdvance(caption) + TitleBarRoom, room);
+    setMinimumWidth(std::max(title, minimumSizeHint().width()));
     auto* buttons = new HoverButtonArray(*this, {{Cancel, u"Cancel"_s, u"Cancel"_s}, {Ok, u"Ok"_s, u"Ok"_s}});
     connect(buttons, &HoverButtonArray::Click, this, &frmDialog::cmdButton_Click);
     m_ui->txtInput->setFocus();

@@ -1,0 +1,55 @@
+#!/usr/bin/env bash
+# Draws each window of the program from a sample: light and dark, at the scales 1 and 2, in its usual and in its smallest size.
+#
+#   tools/make_window_pictures.sh
+#
+# All pictures go to build/dev/window-pictures; those of docs/pictures are made anew. Look at them before you commit them.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+source packaging/common.sh
+
+# What the documents show.
+in_documents=(splash main main-empty list list-menu contact contact-new notes move-contact-chosen move-category ask
+    box-question box-information box-critical menu-category-sub)
+
+need build run
+build dev make_window_pictures make_sample orvantine_data
+pictures=build/dev/window-pictures
+rm -rf "$pictures"
+mkdir -p "$pictures"
+
+sample=$pictures/Sample.mdb
+cat build/dev/data/Delivered.mdb > "$sample"
+build/dev/tools/make_sample --contacts 2000 --seed 1 --today 2026-05-12 --database "$sample"
+
+# A laptop's screen; its pixels grow with the scale.
+screen() { # SCALE
+    local file=$pictures/screen-$1.json
+    printf '{"screens":[{"name":"laptop","x":0,"y":0,"width":%d,"height":%d,"logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]}\n' \
+        $((1366 * $1)) $((768 * $1)) > "$file"
+    printf 'offscreen:configfile=%s' "$PWD/$file"
+}
+
+draw() { # SCALE SCHEME FOLDER [--smallest]
+    QT_QPA_PLATFORM=$(screen "$1") QT_SCALE_FACTOR=$1 QT_LOGGING_RULES="qt.qpa.*=false" \
+        build/dev/tools/make_window_pictures/make_window_pictures \
+        --database "$sample" --empty build/dev/data/Delivered.mdb --images build/dev/data/Images \
+        --scheme "$2" --into "$pictures/$3" "${@:4}"
+}
+
+for scheme in light dark; do
+    for scale in 1 2; do
+        say "Drawing the windows, $scheme, at scale $scale"
+        draw $scale $scheme scale-$scale
+        draw $scale $scheme scale-$scale-smallest --smallest
+    done
+done
+
+mkdir -p docs/pictures
+for name in "${in_documents[@]}"; do
+    for scheme in light dark; do
+        cp "$pictures/scale-1/$name-$scheme.png" docs/pictures/
+    done
+done
+cp "$pictures/scale-1/main-window-light.png" docs/pictures/main-window.png
+say "All pictures: $pictures; those of the documents: docs/pictures"
