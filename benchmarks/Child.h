@@ -7,6 +7,7 @@ struct ChildReport
 {
     double StartSeconds = 0; ///< from its start to its answer, by the clock of this process
     double OwnSeconds = 0;   ///< the work alone, by its own clock
+    double LoadSeconds = 0;  ///< of the processor, for the loading without the opening
     double PeakBytes = 0;    ///< the most memory that it held
 };
 

@@ -27,9 +27,12 @@ std::string Text(const char* format, Values... values)
 
 void Figures::ReportRuns(const std::vector<Run>& runs)
 {
-    ConsoleReporter::ReportRuns(runs);
-    for (const Run& run : runs) {
-        if (run.run_type != Run::RT_Iteration || run.error_occurred)
+    std::vector<Run> single;
+    std::ranges::copy_if(runs, std::back_inserter(single),
+                         [](const Run& run) { return run.run_type == Run::RT_Iteration; });
+    ConsoleReporter::ReportRuns(single);
+    for (const Run& run : single) {
+        if (run.error_occurred)
             continue;
         const auto bytes = run.counters.find("bytes");
         const double measured = bytes != run.counters.end()      ? static_cast<double>(bytes->second)

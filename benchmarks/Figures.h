@@ -10,6 +10,7 @@
 class Figures : public benchmark::ConsoleReporter
 {
 public:
+    Figures() : ConsoleReporter(OO_None) {}
     void ReportRuns(const std::vector<Run>& runs) override;
 
     /// Prints the table of ratios for these numbers of contacts, smallest first. Gives how many limits do not hold.

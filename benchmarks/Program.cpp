@@ -1,12 +1,12 @@
 #include "Program.h"
 
+#include "app/frmSplash.h"
 #include "core/adodb/Connection.h"
 #include "model/Categories.h"
 #include "model/Contact.h"
 #include "model/LoadContacts.h"
 #include "model/Main.h"
-#include "organise/CategoryTree.h"
-#include "ui/frame/frmMain.h"
+#include "ui/widgets/Pictures.h"
 #include "ui/widgets/Theme.h"
 #include "ui/widgets/UserWindows.h"
 
@@ -39,20 +39,13 @@ void CloseProgram()
 
 int RunProgram(QApplication& application, const QString& folder)
 {
+    QApplication::setWindowIcon(Pictures::Icon(u"orvantine"_s));
     Theme::Apply(application);
+    gAppPath = folder;
     UserWindows user;
     User::Install(&user);
-    OpenProgram(folder);
-    LoadCategories();
-    frmMain window;
-    window.SetDeleteOnUnload(false);
-    auto* tree = new CategoryTree(window);
-    window.AddContactsPanel(tree, 1);
-    user.SetStatusBar([&window](const std::optional<QString>& message) { window.ShoWait(message); });
-    tree->FillTree();
-    LoadContacts([](int) { QCoreApplication::processEvents(); });
-    ShoWait(u"Ready"_s);
-    window.Show();
+    frmSplash splash(user);
+    splash.Show();
     const int result = QApplication::exec();
     User::Install(nullptr);
     return result;

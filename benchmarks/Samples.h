@@ -4,7 +4,8 @@
 #include <QString>
 #include <QTemporaryDir>
 
-/// The program folder of the sample agency with so many contacts, as ./bench made it. Nothing writes to it.
+/// The program folder of the sample agency with so many contacts, as ./bench made it. Nothing changes
+/// its contacts.
 [[nodiscard]] QString SampleFolder(int contacts);
 /// The database file in a program folder.
 [[nodiscard]] QString DatabaseIn(const QString& folder);

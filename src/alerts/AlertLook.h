@@ -4,6 +4,8 @@
 
 #include <QString>
 
+class QWidget;
+
 // How an alert shows in a list.
 
 /// The date as "mm/dd/yyyy".
@@ -14,3 +16,6 @@
 
 /// The picture of an alert: "red" today, "yellow" past, "white" future.
 [[nodiscard]] QString AlertIcon(Date date, Date today);
+
+/// A width for a column of such dates: `width`, or more where the control's font needs it.
+[[nodiscard]] int DateColumnWidth(int width, const QWidget& control);

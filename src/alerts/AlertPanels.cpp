@@ -43,7 +43,8 @@ int SortColumn(bool future)
     return future ? textColumn : dateColumn;
 }
 
-/// The first row that sorts behind `text`, where the date sort would carry a row added at the end; 0 for the end itself.
+/// The first row that sorts behind `text`, where the date sort would carry a row added at the end; 0 for the end
+/// itself.
 int PlaceOf(const Grid& panel, int column, const QString& text)
 {
     const std::optional<Date> date = ParseDate(text);
@@ -67,8 +68,12 @@ QString FutureText(const Alert& alert)
 } // namespace
 
 AlertPanels::AlertPanels(frmMain& window)
-    : m_window(window), m_current(new Grid), m_future(new Grid), m_currentCount(new QLabel), m_futureCount(new QLabel),
-      m_popupPanel(m_current)
+    : m_window(window)
+    , m_current(new Grid)
+    , m_future(new Grid)
+    , m_currentCount(new QLabel)
+    , m_futureCount(new QLabel)
+    , m_popupPanel(m_current)
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 8, 8, 8);
@@ -97,7 +102,7 @@ void AlertPanels::AddSection(const QString& heading, const QString& name, QLabel
 {
     auto* section = new QWidget;
     auto* layout = new QVBoxLayout(section);
-    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setContentsMargins(0, 0, 0, 4);
     auto* row = new QHBoxLayout;
     auto* label = new QLabel(heading);
     label->setObjectName(name);
@@ -123,9 +128,8 @@ void AlertPanels::ConnectGrid(Grid& grid)
     grid.installEventFilter(this);
     connect(&grid, &Grid::DblClick, this, [this, &grid] { mnuShowAlert_Click(grid); });
     connect(&grid, &Grid::KeyDown, this, [this, &grid](int code) { Grid_KeyDown(grid, code); });
-    connect(&grid, &Grid::MouseUp, this, [this, &grid](Qt::MouseButton button, QPoint position) {
-        Grid_MouseUp(grid, button, position);
-    });
+    connect(&grid, &Grid::MouseUp, this,
+            [this, &grid](Qt::MouseButton button, QPoint position) { Grid_MouseUp(grid, button, position); });
 }
 
 void AlertPanels::PlugMenu()
@@ -136,8 +140,8 @@ void AlertPanels::PlugMenu()
     menus.Plug(u"mnuManageCurAlerts"_s, this, [] { ManageAlerts(); });
     menus.Plug(u"mnuDeleteAlert"_s, this, [this] { mnuDeleteAlert_Click(*m_popupPanel); });
     menus.Plug(u"mnuNewCurAlert"_s, this, [] { SetNewAlert_Click(); });
-    // The entries come back only behind the next popup, so the first one after an empty panel's is still short, which is
-    // meant.
+    // The entries come back only behind the next popup, so the first one after an empty panel's is still short, which
+    // is meant.
     connect(&menus.Menu(u"mnuAlertGrid"_s), &QMenu::aboutToHide, this, [this] {
         if (m_showRowEntriesLater)
             ShowRowEntries(true);
@@ -151,7 +155,7 @@ void AlertPanels::AddColumns()
     if (m_current->Columns() > 0)
         return;
     m_current->AddColumn({.Width = 25, .Alignment = Qt::AlignCenter});
-    m_current->AddColumn({.Width = 75, .Sort = SortType::Date});
+    m_current->AddColumn({.Width = DateColumnWidth(75, *m_current), .Sort = SortType::Date});
     m_current->AddColumn({});
     m_future->AddColumn({.Sort = SortType::Date});
 }
@@ -176,28 +180,43 @@ void AlertPanels::FillAlertGrid(bool futureOnly)
 
 void AlertPanels::Refill(bool future)
 {
-    Grid& panel = Panel(future);
     const Date today = TodayDate();
-    panel.SetRedraw(false);
-    const auto redraw = qScopeGuard([&panel] { panel.SetRedraw(true); });
-    panel.Clear();
+    std::vector<std::pair<Date, const Alert*>> shown;
     for (const std::shared_ptr<Alert>& alert : gAlerts) {
         const bool isFuture = alert->AlertDate > today;
         ++(isFuture ? gAlertsFuture : gAlertsCurrent);
-        if (isFuture != future)
-            continue;
-        const int row = panel.AddRow(alert->KeyID());
-        AddAlert(row, *alert, future);
-        if (future)
-            continue;
-        panel.SetCellIcon(row, iconColumn, AlertIcon(alert->AlertDate, today));
-        if (alert->AlertDate == today) {
-            panel.SetCellColor(row, dateColumn, Theme::Red);
-            panel.SetCellColor(row, noteColumn, Theme::Red);
-        }
+        if (isFuture == future)
+            shown.emplace_back(alert->AlertDate, alert.get());
     }
+    Grid& panel = Panel(future);
+    panel.SetRedraw(false);
+    const auto redraw = qScopeGuard([&panel] { panel.SetRedraw(true); });
+    panel.Clear();
     panel.SetSortOrder(1, newestFirst);
-    panel.Sort(SortColumn(future), SortType::Date, newestFirst);
+    if (future) {
+        for (const auto& [date, alert] : shown)
+            AddAlert(panel.AddRow(alert->KeyID()), *alert, future);
+        // A cell is a date here only where the note adds none but a time; the others stay in their order, which is
+        // meant.
+        panel.Sort(textColumn, SortType::Date, newestFirst);
+        return;
+    }
+    // As the date sort would order the cells, without reading each date back from its text.
+    std::stable_sort(shown.begin(), shown.end(),
+                     [](const auto& one, const auto& other) { return other.first < one.first; });
+    for (const auto& [date, alert] : shown)
+        AddCurrentAlert(*alert, today);
+}
+
+void AlertPanels::AddCurrentAlert(const Alert& alert, Date today)
+{
+    const int row = m_current->AddRow(alert.KeyID());
+    AddAlert(row, alert, false);
+    m_current->SetCellIcon(row, iconColumn, AlertIcon(alert.AlertDate, today));
+    if (alert.AlertDate != today)
+        return;
+    m_current->SetCellColor(row, dateColumn, Theme::Red);
+    m_current->SetCellColor(row, noteColumn, Theme::Red);
 }
 
 void AlertPanels::AddAlert(int row, const Alert& alert, bool future)
@@ -284,14 +303,15 @@ bool AlertPanels::eventFilter(QObject* watched, QEvent* event)
                              static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard;
     if (panel == nullptr || !asksForMenu)
         return QWidget::eventFilter(watched, event);
-    Grid_MouseUp(*panel, Qt::RightButton, panel->viewport()->mapToGlobal(panel->visualRect(panel->currentIndex()).bottomLeft()));
+    Grid_MouseUp(*panel, Qt::RightButton,
+                 panel->viewport()->mapToGlobal(panel->visualRect(panel->currentIndex()).bottomLeft()));
     return true;
 }
 
 void AlertPanels::Grid_MouseUp(Grid& panel, Qt::MouseButton button, QPoint position)
 {
-    const QString tag = &panel == m_future ? u"frmMain GridFutureAlerts Mouse_UP Error #"_s
-                                           : u"frmMain GridAlerts Mouse_UP Error #"_s;
+    const QString tag =
+        &panel == m_future ? u"frmMain GridFutureAlerts Mouse_UP Error #"_s : u"frmMain GridAlerts Mouse_UP Error #"_s;
     Trap(tag, Icon::Critical, [&] {
         if (panel.SelectedRow() > 0)
             curAlertIndex = FindAlert(panel.RowItemData(panel.SelectedRow()));

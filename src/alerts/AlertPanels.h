@@ -8,8 +8,8 @@ class frmMain;
 class Grid;
 class QLabel;
 
-/// The alerts of all contacts on the first tab: GridAlerts with what is due today or overdue, GridFutureAlerts with all that
-/// comes later, and the popup mnuAlertGrid of both.
+/// The alerts of all contacts on the first tab: GridAlerts with what is due today or overdue, GridFutureAlerts with all
+/// that comes later, and the popup mnuAlertGrid of both.
 ///
 ///   Current Alerts   12
 ///   GridAlerts
@@ -42,6 +42,7 @@ private:
     void AddColumns();
     [[nodiscard]] Grid& Panel(bool future) const { return future ? *m_future : *m_current; }
     void Refill(bool future);
+    void AddCurrentAlert(const Alert& alert, Date today);
     void AddAlert(int row, const Alert& alert, bool future);
     void ShowCounts();
 

@@ -6,8 +6,8 @@ class Alert;
 [[nodiscard]] bool ConfirmedDelete(const Alert& alert);
 
 /// Deletes the current alert from its table, from its panel and from gAlerts; gives whether it counted as future there.
-/// The two dates compare as the texts "mm/dd/yyyy", which is meant: an alert of next January counts as past in December.
-/// Raises what the table raises; the alert then stays.
+/// The two dates compare as the texts "mm/dd/yyyy", which is meant: an alert of next January counts as past in
+/// December. Raises what the table raises; the alert then stays.
 bool DeleteCurrentAlert();
 
 /// Brings the contact list, where it is loaded, up to date with curContact's alerts, in its selected row.

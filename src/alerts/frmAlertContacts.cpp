@@ -9,6 +9,7 @@
 #include "ui/widgets/Pictures.h"
 #include "ui_frmAlertContacts.h"
 
+#include <QHeaderView>
 #include <unordered_set>
 
 using namespace Qt::StringLiterals;
@@ -31,6 +32,7 @@ frmAlertContacts::frmAlertContacts()
     m_ui->setupUi(this);
     Grid* grid = m_ui->Grid1;
     grid->SetMultiSelect(false);
+    grid->horizontalHeader()->setStretchLastSection(true);
     connect(grid, &Grid::SelectionChange, this, &frmAlertContacts::Grid1_SelectionChange);
     connect(grid, &Grid::DblClick, this, &frmAlertContacts::OkClick);
     connect(grid, &Grid::KeyDown, this, [this](int code) {

@@ -10,8 +10,8 @@ namespace Ui {
 class frmAlertContacts;
 }
 
-/// Asks for the contact to set an alert for: any in gAlertMode 1, one with alerts in 2. gReturnValue is its RecID, "" where the
-/// person cancelled. Enter and a double click on a row are Ok; Esc and the close box are Cancel.
+/// Asks for the contact to set an alert for: any in gAlertMode 1, one with alerts in 2. gReturnValue is its RecID, ""
+/// where the person cancelled. Enter and a double click on a row are Ok; Esc and the close box are Cancel.
 class frmAlertContacts : public Form
 {
     Q_OBJECT

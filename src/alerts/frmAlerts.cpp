@@ -79,8 +79,9 @@ void frmAlerts::LoadBitMaps()
                                              {ExitButton, u"Exit"_s, u"Exit"_s}});
     connect(m_buttons, &HoverButtonArray::Click, this, &frmAlerts::cmdButton_Click);
     m_ui->picCalendar->setIcon(Pictures::Icon(u"calendar"_s));
-    for (QWidget* control : {static_cast<QWidget*>(m_ui->picCalendar), static_cast<QWidget*>(m_buttons->Button(NewButton)),
-                             static_cast<QWidget*>(m_buttons->Button(ExitButton))})
+    for (QWidget* control :
+         {static_cast<QWidget*>(m_ui->picCalendar), static_cast<QWidget*>(m_buttons->Button(NewButton)),
+          static_cast<QWidget*>(m_buttons->Button(ExitButton))})
         KeepPlace(control);
 }
 
@@ -89,7 +90,7 @@ void frmAlerts::LoadColumns()
     Grid& grid = *m_ui->Grid1;
     grid.ClearWithColumns();
     grid.AddColumn({.Key = u"Alert"_s, .Width = 19, .Alignment = Qt::AlignCenter});
-    grid.AddColumn({.Key = u"Date"_s, .Header = u"Date"_s, .Width = 85, .Sort = SortType::Date});
+    grid.AddColumn({.Key = u"Date"_s, .Header = u"Date"_s, .Width = DateColumnWidth(85, grid), .Sort = SortType::Date});
     grid.AddColumn({.Key = u"Note"_s, .Header = u"Note"_s, .Width = 235});
 }
 

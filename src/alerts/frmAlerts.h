@@ -10,8 +10,8 @@ namespace Ui {
 class frmAlerts;
 }
 
-/// The alerts of curContact: listed, added, changed and deleted. The window is at rest or editing; while it is editing, Modify
-/// is Save, Delete is Cancel, and the window cannot be closed.
+/// The alerts of curContact: listed, added, changed and deleted. The window is at rest or editing; while it is editing,
+/// Modify is Save, Delete is Cancel, and the window cannot be closed.
 class frmAlerts : public Form
 {
     Q_OBJECT

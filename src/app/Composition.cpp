@@ -8,16 +8,18 @@
 #include "model/SelectedSet.h"
 #include "organise/CategoryTree.h"
 #include "organise/frmList.h"
+#include "organise/Rolodex.h"
 #include "ui/frame/Menus.h"
 #include "ui/widgets/UserWindows.h"
 
 using namespace Qt::StringLiterals;
 
-Composition::Composition() : m_tree(new CategoryTree(m_main)), m_alerts(new AlertPanels(m_main))
+Composition::Composition() : m_tree(new CategoryTree(m_main)), m_rolodex(new Rolodex), m_alerts(new AlertPanels(m_main))
 {
     // The main window is the last to go, and everything hangs on it: it outlives its own unloading.
     m_main.SetDeleteOnUnload(false);
     m_main.AddContactsPanel(m_tree, 1);
+    m_main.AddContactsPanel(m_rolodex, 1);
     m_main.AddContactsPanel(m_alerts, 1);
     PlugOpeners();
     PlugSelectedMenu();
@@ -33,6 +35,7 @@ void Composition::PlugOpeners()
     gOpeners.ContactEditor = [] { ShowContactEditor(); };
     gOpeners.Notes = [] { ShowNotes(); };
     gOpeners.ContactList = [this] { ShowContactList(&m_main); };
+    gOpeners.SelectedToRolodex = [this] { m_rolodex->mnuSelectedToRolodex_Click(); };
     gOpeners.Alerts = [] { ShowAlerts(); };
     gOpeners.ManageAlerts = [] { ManageAlerts(); };
     gOpeners.SetNewAlert = [] {

@@ -4,10 +4,12 @@
 
 class AlertPanels;
 class CategoryTree;
+class Rolodex;
 
 /// The main window with the features plugged in:
 ///
 ///   CategoryTree  -> first tab, mnuCategory
+///   Rolodex       -> first tab
 ///   AlertPanels   -> first tab, mnuAlertGrid
 ///   frmList, frmContact, frmNotes, frmAlerts, ManageAlerts, SetNewAlert_Click  -> openers
 ///
@@ -27,5 +29,6 @@ private:
 
     frmMain m_main;
     CategoryTree* m_tree;
+    Rolodex* m_rolodex;
     AlertPanels* m_alerts;
 };

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <QString>
 #include <memory>
+#include <QString>
 
 class Alert;
 
-/// Makes an alert for curContact, writes it to its table and adds it to gAlerts. `alertDate` is any text that names a date.
-/// Raises 13 where it names none, 91 without a contact.
+/// Makes an alert for curContact, writes it to its table and adds it to gAlerts. `alertDate` is any text that names a
+/// date. Raises 13 where it names none, 91 without a contact.
 std::shared_ptr<Alert> AddToAlertCollection(const QString& alertDate, const QString& alertNote);
 
-/// The same, and shows the new alert in its panel; it becomes the current alert. The contact's NumberOfAlerts stays as it
-/// was, which is meant: frmAlerts counts when it closes.
+/// The same, and shows the new alert in its panel; it becomes the current alert. The contact's NumberOfAlerts stays as
+/// it was, which is meant: frmAlerts counts when it closes.
 void AddNewAlert(const QString& alertDate, const QString& alertNote);

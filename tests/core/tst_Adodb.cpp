@@ -28,7 +28,9 @@ private Q_SLOTS:
     void TheOldestOfEqualRowsComesFirst();
     void DatesCompareByTheirDefaultText();
     void RowsCanBeWalkedFoundAndChanged();
+    void FieldsAreFoundInWhateverOrderTheyAreAskedFor();
     void ColumnsKeepTheirKinds();
+    void AReadingLetsOwnWritesThroughAndFreesTheFile();
     void AFileThatVanishedTakesNoWritesAndIsUsableWhenItIsBack();
 
 private:
@@ -218,6 +220,36 @@ void tst_Adodb::RowsCanBeWalkedFoundAndChanged()
     QCOMPARE(ErrorOf([&] { (void)rows.Fields("Nme"_L1); }), ErrorNumber::ItemNotFound);
     rows.Close();
     QCOMPARE(ErrorOf([&] { rows.Close(); }), ErrorNumber::ObjectClosed);
+}
+
+void tst_Adodb::FieldsAreFoundInWhateverOrderTheyAreAskedFor()
+{
+    const FreshDatabase fresh;
+    gConn.Execute(u"Insert into FormLetters (FormName,FormText) Values ('name','text')"_s);
+    for (const QString& order : {u"ID FormName FormText"_s, u"FORMTEXT id formname"_s, u"FormText FormText ID"_s}) {
+        Recordset rows;
+        rows.Open(u"Select * from FormLetters"_s, gConn);
+        for (const QString& name : order.split(u' ')) {
+            const QByteArray letters = name.toLatin1();
+            const QString expected = name.startsWith(u"id"_s, Qt::CaseInsensitive) ? u"1"_s : name.mid(4).toLower();
+            QCOMPARE(rows.Fields(QLatin1StringView(letters)).Get().Text(), expected);
+            QCOMPARE(rows.Fields(name).Get().Text(), expected);
+        }
+    }
+}
+
+void tst_Adodb::AReadingLetsOwnWritesThroughAndFreesTheFile()
+{
+    const FreshDatabase fresh;
+    Connection other;
+    other.Open(u"Dbq="_s + fresh.DatabaseFile() + u";Password=kostrevy48"_s);
+    {
+        const Connection::Reading reading(gConn);
+        gConn.Execute(u"Insert into Categories (Description) Values ('own')"_s);
+        QCOMPARE(FreshDatabase::Rows(u"Select Description from Categories"_s), QStringList{u"own"_s});
+    }
+    other.Execute(u"Insert into Categories (Description) Values ('other')"_s);
+    QCOMPARE(FreshDatabase::Rows(u"Select Description from Categories"_s), (QStringList{u"own"_s, u"other"_s}));
 }
 
 void tst_Adodb::ColumnsKeepTheirKinds()

@@ -17,10 +17,10 @@ inline QString Address(int number)
 {
     return QStringLiteral("%1 Elm St").arg(number);
 }
-/// Over several pages of the file, so that a save can be cut in two.
+/// Over a hundred pages of the file, so that a save can be cut in two.
 inline QString Notes(int number)
 {
-    return QStringLiteral("%1 ").arg(number).repeated(2000);
+    return (QStringLiteral("%1 ").arg(number).repeated(250) + QStringLiteral("\r\n")).repeated(150);
 }
 
 } // namespace Saved

@@ -246,7 +246,8 @@ void tst_HostileTyping::NamesOfSubcategoriesAreSavedOrRefused()
     const QStringList reports = m_person->Take();
     const Difference difference(before, FreshDatabase::WholeFile());
     QCOMPARE(difference.Gone, QStringList());
-    // A name that is an "or" is written, reads the number of an older row back, and the tree reports that it has that one.
+    // A name that is an "or" is written, reads the number of an older row back, and the tree reports that it has that
+    // one.
     QVERIFY(difference.New.size() <= 1);
     QVERIFY(difference.New.size() == 1 || !reports.isEmpty());
     if (!text.contains(u'\''))

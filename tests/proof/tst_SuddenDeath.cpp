@@ -4,12 +4,15 @@
 #include "files/Database.h"
 #include "support/FreshDatabase.h"
 
+#include <chrono>
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QSet>
 #include <QTest>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -57,12 +60,19 @@ void tst_SuddenDeath::RunAndKill(const FreshDatabase& fresh)
         QVERIFY2(program.canReadLine(), "the program neither saves nor says why");
         ReadLine(program.readLine());
     }
-    QTest::qSleep(m_random.bounded(50));
+    // Half of the kills fall anywhere, the others while a save is on its way to the disk.
+    const QString journal = fresh.DatabaseFile() + u"-journal"_s;
+    if (m_random.bounded(2) == 0) {
+        const QDeadlineTimer patience(1000);
+        while (!QFileInfo::exists(journal) && !patience.hasExpired()) {
+        }
+    }
+    std::this_thread::sleep_for(std::chrono::microseconds(m_random.bounded(30'000)));
     program.kill();
     QVERIFY(program.waitForFinished());
     while (program.canReadLine())
         ReadLine(program.readLine());
-    m_cutSaves += QFileInfo(fresh.DatabaseFile() + u"-journal"_s).size() > 0 ? 1 : 0;
+    m_cutSaves += QFileInfo(journal).size() > 0 ? 1 : 0;
 }
 
 void tst_SuddenDeath::CheckFile(const FreshDatabase& fresh)

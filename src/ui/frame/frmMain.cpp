@@ -44,8 +44,6 @@ frmMain::frmMain()
     layout->addWidget(m_tabs);
     layout->addWidget(m_panels);
     resize(1100, 680);
-    // Not of the window: that is never narrower than its status bar.
-    m_tabs->setMinimumSize(464, 250);
 
     m_clock = new ClockPanel(*m_panels, *m_menus, this);
     new SettingsMenu(*this);

@@ -1,5 +1,6 @@
 #include "ui/widgets/MessageWindow.h"
 
+#include <memory>
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -82,7 +83,7 @@ void MessageWindow::ScrollLongText(const QString& text)
     const int needed = fontMetrics().boundingRect(QRect(0, 0, Width, 1 << 20), flags, text).height();
     const int width = std::min(Width + 40, room.width() - 120);
     scrolling->setFixedSize(width, std::min(needed + 2 * fontMetrics().lineSpacing(), tallest));
-    grid->replaceWidget(label, scrolling);
+    const std::unique_ptr<QLayoutItem> replaced(grid->replaceWidget(label, scrolling));
     // The hidden label keeps the text for whoever asks the box, but takes no room.
     label->setFixedSize(0, 0);
     label->hide();

@@ -9,6 +9,7 @@
 
 #include <QCalendarWidget>
 #include <QTextCharFormat>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -56,6 +57,33 @@ void frmCalendar::DressCalendar(const QDate& value)
     today.setFontWeight(QFont::Bold);
     m_calendar->setDateTextFormat(Clock::Today(), today);
     m_calendar->setSelectedDate(value);
+    DressHead();
+}
+
+void frmCalendar::DressHead()
+{
+    // The style's own arrows are green, and its mark of a menu is cut here.
+    const auto dress = [this](const QString& name, const QString& sign, const QString& accessibleName) {
+        auto* button = m_calendar->findChild<QToolButton*>(name);
+        if (button == nullptr)
+            return;
+        QFont font = button->font();
+        font.setPointSizeF(font.pointSizeF() * 1.5);
+        button->setFont(font);
+        QPalette palette = button->palette();
+        for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
+            palette.setColor(group, QPalette::ButtonText, palette.color(group, QPalette::HighlightedText));
+        button->setPalette(palette);
+        button->setIcon({});
+        button->setText(sign);
+        button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+        button->setAccessibleName(accessibleName);
+        button->setToolTip(accessibleName);
+    };
+    dress(u"qt_calendar_prevmonth"_s, u"\u2039"_s, u"Previous month"_s);
+    dress(u"qt_calendar_nextmonth"_s, u"\u203A"_s, u"Next month"_s);
+    if (auto* month = m_calendar->findChild<QToolButton*>(u"qt_calendar_monthbutton"_s))
+        month->setStyleSheet(u"QToolButton::menu-indicator { image: none; }"_s);
 }
 
 void frmCalendar::cmdButton_Click(int index)

@@ -21,6 +21,7 @@ protected:
 
 private:
     void DressCalendar(const QDate& value);
+    void DressHead();
     void cmdButton_Click(int index);
     void OkClick();
 
@@ -28,5 +29,6 @@ private:
     QString m_reply;
 };
 
-/// Shows frmCalendar and waits for its reply: "mm/dd/yyyy", "" where the person cancelled. It belongs into gReturnValue.
+/// Shows frmCalendar and waits for its reply: "mm/dd/yyyy", "" where the person cancelled. It belongs into
+/// gReturnValue.
 [[nodiscard]] QString AskForDate(const QString& caption, const QDate& value);
