@@ -65,6 +65,9 @@ public:
         // A list drops down under its field; as a menu it would cover the screen from top to bottom.
         if (hint == SH_ComboBox_Popup)
             return 0;
+        // The style's own small signs on Ok and Cancel are of another family than our pictures.
+        if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
+            return 0;
         return QProxyStyle::styleHint(hint, option, widget, result);
     }
 
