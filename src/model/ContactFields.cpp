@@ -18,11 +18,6 @@ QString Contact::*MemberOf(ContactField field)
 
 } // namespace
 
-FieldKind KindOf(ContactField field)
-{
-    return field == ContactField::MailState ? FieldKind::List : FieldKind::Text;
-}
-
 QString ContactText(const Contact& contact, ContactField field)
 {
     if (field == ContactField::MailState)

@@ -31,18 +31,6 @@ enum class ContactField
 
 inline constexpr int ContactFieldCount = static_cast<int>(ContactField::Fax) + 1;
 
-enum class FieldKind
-{
-    Text,
-    List,
-    Money,
-    Date,
-    Flag,
-    Number
-};
-
-[[nodiscard]] FieldKind KindOf(ContactField field);
-
 /// The field as the person sees it; of a list field, the entry.
 [[nodiscard]] QString ContactText(const Contact& contact, ContactField field);
 
