@@ -178,6 +178,12 @@ void AlertPanels::FillAlertGrid(bool futureOnly)
     });
 }
 
+void AlertPanels::ClearPanels()
+{
+    m_current->Clear();
+    m_future->Clear();
+}
+
 void AlertPanels::Refill(bool future)
 {
     const Date today = TodayDate();

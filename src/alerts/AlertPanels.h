@@ -27,6 +27,7 @@ public:
 
     // AlertPanelsFace
     void FillAlertGrid(bool futureOnly) override;
+    void ClearPanels() override;
     void InsertAlertToGrid(const Alert& alert, bool isFuture) override;
     void RemoveAlertFromGrid(Long alertID, bool isFuture) override;
     void RemoveAlerts(const std::vector<Long>& alertIDs) override;

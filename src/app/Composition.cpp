@@ -2,6 +2,7 @@
 
 #include "alerts/AlertPanels.h"
 #include "alerts/ManageAlerts.h"
+#include "app/frmCallHome.h"
 #include "editors/Editors.h"
 #include "model/DeleteContacts.h"
 #include "model/Openers.h"
@@ -9,6 +10,8 @@
 #include "organise/CategoryTree.h"
 #include "organise/frmList.h"
 #include "organise/Rolodex.h"
+#include "transfer/ExportData.h"
+#include "transfer/ImportData.h"
 #include "ui/frame/Menus.h"
 #include "ui/widgets/UserWindows.h"
 
@@ -42,6 +45,11 @@ void Composition::PlugOpeners()
         if (SetNewAlert_Click())
             ShowAlerts();
     };
+    gOpeners.Backup = [] { ExportData(u"All"_s); };
+    gOpeners.ExportSelected = [] { ExportData(u"Selected"_s); };
+    gOpeners.Import = [] { ImportData(false); };
+    gOpeners.Restore = [] { ImportData(true); };
+    gOpeners.Feedback = [] { ShowCallHome(); };
 }
 
 void Composition::PlugSelectedMenu()

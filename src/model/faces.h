@@ -73,6 +73,12 @@ public:
     virtual bool FindInTree(const QString& key) = 0;
     /// Adds a subcategory's node under the node that LocateNode finds for `parentID`, and selects it.
     virtual void AddSubNode(Long parentID, const QString& text, Long id) = 0;
+    /// Writes a new category and adds its node; a name that is there already is refused with its box.
+    virtual void CreateNewCategory(const QString& name) = 0;
+    /// Takes all nodes away.
+    virtual void ClearNodes() = 0;
+    /// Makes the tree visible and enabled.
+    virtual void ShowTree() = 0;
     /// Adds a category's node and selects it.
     virtual void AddRootNode(const QString& text, Long id) = 0;
     virtual void trvCategories_DblClick() = 0;
@@ -144,6 +150,8 @@ class AlertPanelsFace
 public:
     virtual ~AlertPanelsFace() = default;
     virtual void FillAlertGrid(bool futureOnly) = 0;
+    /// Takes all rows from both panels; the columns stay.
+    virtual void ClearPanels() = 0;
     virtual void InsertAlertToGrid(const Alert& alert, bool isFuture) = 0;
     virtual void RemoveAlertFromGrid(Long alertID, bool isFuture) = 0;
     /// Removes the rows of these alerts from both panels.
@@ -157,6 +165,8 @@ public:
     virtual ~SearchFace() = default;
     [[nodiscard]] virtual bool HasCriteriaRows() const = 0;
     virtual void optSearch_Click() = 0;
+    /// Clears GridFound but for its columns, and runs optSearch_Click for the search of contacts: all contacts have changed.
+    virtual void SearchContactsAnew() = 0;
 };
 
 class LettersFace

@@ -413,3 +413,14 @@ void CategoryTree::AddRootNode(const QString& text, Long id)
     if (m_window.isVisible())
         trvCategories_NodeClick(node);
 }
+
+void CategoryTree::ClearNodes()
+{
+    m_tree->RemoveAllNodes();
+}
+
+void CategoryTree::ShowTree()
+{
+    m_tree->setVisible(true);
+    m_tree->setEnabled(true);
+}

@@ -31,6 +31,9 @@ public:
     bool ItsASub() override;
     bool FindInTree(const QString& key) override;
     void AddSubNode(Long parentID, const QString& text, Long id) override;
+    void CreateNewCategory(const QString& name) override;
+    void ClearNodes() override;
+    void ShowTree() override;
     void AddRootNode(const QString& text, Long id) override;
     void trvCategories_DblClick() override;
     void ShowSubContactCount() override;
@@ -47,7 +50,6 @@ private:
     void mnuViewContacts_Click();
     void mnuNewContact_Click();
 
-    void CreateNewCategory(const QString& name);
     void RemoveThisCategory();
     void RemoveThisSubCategory();
     void DeleteCurrentCategory(QTreeWidgetItem* node);

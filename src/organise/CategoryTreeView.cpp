@@ -98,6 +98,12 @@ void CategoryTreeView::RemoveNode(QTreeWidgetItem* node)
     delete node;
 }
 
+void CategoryTreeView::RemoveAllNodes()
+{
+    m_nodes.clear();
+    clear();
+}
+
 void CategoryTreeView::Forget(QTreeWidgetItem* node)
 {
     for (int i = 0; i < node->childCount(); ++i)

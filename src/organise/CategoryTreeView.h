@@ -17,6 +17,7 @@ public:
     QTreeWidgetItem* AddNode(QTreeWidgetItem* parent, const QString& key, const QString& text);
     /// Removes a node and its children.
     void RemoveNode(QTreeWidgetItem* node);
+    void RemoveAllNodes();
     /// The nodes in the order of adding.
     [[nodiscard]] const std::vector<QTreeWidgetItem*>& Nodes() const { return m_nodes; }
     [[nodiscard]] QTreeWidgetItem* FindKey(const QString& key) const;

@@ -74,6 +74,9 @@ public:
     bool ItsASub() override { return true; }
     bool FindInTree(const QString&) override { return true; }
     void AddSubNode(Long, const QString&, Long) override {}
+    void CreateNewCategory(const QString&) override {}
+    void ClearNodes() override {}
+    void ShowTree() override {}
     void AddRootNode(const QString&, Long) override {}
     void trvCategories_DblClick() override {}
     void ShowSubContactCount() override { ++CountsShown; }

@@ -29,6 +29,13 @@ ColumnList::ColumnList(sqlite3_stmt* statement)
     m_askedNext.assign(m_columns.size() + 1, 0);
 }
 
+ColumnList::ColumnList(const std::vector<QString>& names)
+{
+    for (const QString& name : names)
+        m_columns.push_back({name, ColumnKind::Text});
+    m_askedNext.assign(m_columns.size() + 1, 0);
+}
+
 int ColumnList::Find(QStringView name) const
 {
     for (int i = 0; i < Count(); ++i) {

@@ -19,6 +19,8 @@ class ColumnList
 {
 public:
     explicit ColumnList(sqlite3_stmt* statement);
+    /// Columns of texts.
+    explicit ColumnList(const std::vector<QString>& names);
 
     [[nodiscard]] int Count() const { return static_cast<int>(m_columns.size()); }
     [[nodiscard]] const QString& Name(int column) const { return At(column).Name; }

@@ -1,9 +1,11 @@
 #include "core/adodb/Connection.h"
 
 #include "core/adodb/Engine.h"
+#include "core/adodb/StatementBatch.h"
 #include "core/RunTimeError.h"
 
 #include <QDir>
+#include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
 
@@ -38,10 +40,28 @@ void Connection::Execute(const QString& statement)
 {
     Engine& engine = OpenEngine();
     Record(statement);
-    const TranslatedStatement translated = Translate(statement);
-    const auto running = engine.Prepare(translated.Text, translated.Literals, translated.Reusable);
-    while (running->Step()) {
+    TranslatedStatement translated = Translate(statement);
+    if (m_batch != nullptr)
+        m_batch->Run(std::move(translated));
+    else
+        RunStatement(engine, translated);
+}
+
+void Connection::ShareCommits(const std::function<void()>& body)
+{
+    if (m_batch != nullptr) {
+        body();
+        return;
     }
+    StatementBatch batch(OpenEngine());
+    const QScopedValueRollback<StatementBatch*> current(m_batch, &batch);
+    try {
+        body();
+    } catch (...) {
+        batch.Commit();
+        throw;
+    }
+    batch.Commit();
 }
 
 /// A selection that is not at its end holds the lock. This one has a row whatever the tables hold.

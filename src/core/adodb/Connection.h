@@ -5,6 +5,7 @@
 #include <memory>
 
 class Engine;
+class StatementBatch;
 
 enum class ObjectState
 {
@@ -32,6 +33,10 @@ public:
     /// closed, and the engine's errors.
     void Execute(const QString& statement);
 
+    /// Runs `body`, whose statements share commits: a run of thousands waits for the disk a few times only. Where one fails,
+    /// all before it are kept. Selections see what was not committed yet. Raises what `body` raises.
+    void ShareCommits(const std::function<void()>& body);
+
     /// For its lifetime every selection sees the file in one state, and none has to ask the system for the file's lock
     /// anew. Other programs can't write meanwhile. Raises as `Execute` does.
     class Reading
@@ -57,6 +62,7 @@ private:
     [[nodiscard]] Engine& OpenEngine();
 
     std::unique_ptr<Engine> m_engine;
+    StatementBatch* m_batch = nullptr; ///< of the ShareCommits that is running
     std::function<void(const QString&)> m_recorder;
 };
 

@@ -76,8 +76,10 @@ bool IsKnownTable(const char* name)
     return name != nullptr && known.contains(QByteArray(name).toLower());
 }
 
+} // namespace
+
 /// Lets pass what the program says, and nothing else: no definition, no pragma, no attached file, no other function.
-int Authorize(void*, int action, const char* first, const char* second, const char*, const char*)
+int Engine::Authorize(void* engine, int action, const char* first, const char* second, const char*, const char*)
 {
     switch (action) {
     case SQLITE_SELECT:
@@ -89,12 +91,12 @@ int Authorize(void*, int action, const char* first, const char* second, const ch
         return IsKnownTable(first) ? SQLITE_OK : SQLITE_DENY;
     case SQLITE_FUNCTION:
         return qstricmp(second, "cdate") == 0 ? SQLITE_OK : SQLITE_DENY;
+    case SQLITE_TRANSACTION:
+        return static_cast<const Engine*>(engine)->m_runsOwn ? SQLITE_OK : SQLITE_DENY;
     default:
         return SQLITE_DENY;
     }
 }
-
-} // namespace
 
 Engine::Running::Running(Engine& engine, const Form& form, bool kept) : m_engine(engine), m_form(form), m_kept(kept) {}
 
@@ -167,7 +169,7 @@ void Engine::Configure()
     if (Pragma("PRAGMA synchronous") != "2"_L1 || Pragma("PRAGMA journal_mode") != "delete"_L1)
         Raise(ErrorNumber::EngineFailure, u"The database can't be written safely."_s);
     sqlite3_create_function_v2(m_database, "cdate", 1, SQLITE_UTF8, nullptr, CDateFunction, nullptr, nullptr, nullptr);
-    sqlite3_set_authorizer(m_database, Authorize, nullptr);
+    sqlite3_set_authorizer(m_database, Authorize, this);
 }
 
 QString Engine::Pragma(const char* text) const
@@ -239,6 +241,48 @@ void Engine::Bind(sqlite3_stmt* statement, const std::vector<QVariant>& literals
         if (result != SQLITE_OK)
             RaiseLast();
     }
+}
+
+Engine::Declaration Engine::Declared(const QString& table, const QString& column) const
+{
+    const char* type = nullptr;
+    int notNull = 0;
+    int key = 0;
+    int autoNumbered = 0;
+    if (sqlite3_table_column_metadata(m_database, nullptr, table.toUtf8().constData(), column.toUtf8().constData(), &type,
+                                      nullptr, &notNull, &key, &autoNumbered) != SQLITE_OK)
+        RaiseLast();
+    return {QByteArray(type).toUpper(), notNull != 0 || key != 0, autoNumbered != 0};
+}
+
+void Engine::Begin()
+{
+    RunOwn("BEGIN IMMEDIATE");
+}
+
+void Engine::Commit()
+{
+    RunOwn("COMMIT");
+}
+
+bool Engine::IsBegun() const
+{
+    return sqlite3_get_autocommit(m_database) == 0;
+}
+
+void Engine::RollBack()
+{
+    if (IsBegun())
+        RunOwn("ROLLBACK");
+}
+
+void Engine::RunOwn(const char* text)
+{
+    m_runsOwn = true;
+    const int result = sqlite3_exec(m_database, text, nullptr, nullptr, nullptr);
+    m_runsOwn = false;
+    if (result != SQLITE_OK)
+        RaiseLast();
 }
 
 void Engine::RaiseLast() const

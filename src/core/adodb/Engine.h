@@ -2,6 +2,7 @@
 
 #include "core/adodb/Dialect.h"
 
+#include <QByteArray>
 #include <QHash>
 #include <QString>
 #include <memory>
@@ -52,15 +53,35 @@ public:
     /// on the known tables are accepted.
     [[nodiscard]] std::unique_ptr<Running> Prepare(const QString& text, const std::vector<QVariant>& literals, bool keep);
 
+    /// What a table declares of a column.
+    struct Declaration
+    {
+        QByteArray Type;
+        bool NotNull = false;
+        bool AutoNumbered = false;
+    };
+    [[nodiscard]] Declaration Declared(const QString& table, const QString& column) const;
+
+    // Statements between these share one commit. Raise the engine's error.
+    void Begin();
+    void Commit();
+    /// False once the engine has ended what Begin began, which a full disk can make it do.
+    [[nodiscard]] bool IsBegun() const;
+    /// Takes back what was not committed.
+    void RollBack();
+
     /// The engine's last fault as an error of the program.
     [[noreturn]] void RaiseLast() const;
 
 private:
     void Configure();
     [[nodiscard]] QString Pragma(const char* text) const;
+    void RunOwn(const char* text);
+    static int Authorize(void* engine, int action, const char* first, const char* second, const char*, const char*);
     [[nodiscard]] Form Compile(const QString& text) const;
     void Bind(sqlite3_stmt* statement, const std::vector<QVariant>& literals) const;
 
     sqlite3* m_database = nullptr;
+    bool m_runsOwn = false; ///< the engine's own statement, not one of the program, is being prepared
     QHash<QString, Form> m_kept;
 };

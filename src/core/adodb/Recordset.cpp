@@ -3,7 +3,12 @@
 #include "core/adodb/Connection.h"
 #include "core/adodb/Engine.h"
 #include "core/adodb/RowPack.h"
+#include "core/adodb/RowsetReader.h"
+#include "core/adodb/RowsetWriter.h"
+#include "core/Files.h"
 #include "core/RunTimeError.h"
+
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -56,8 +61,40 @@ void Recordset::Open(const QString& statement, Connection& connection)
     Fetch();
 }
 
+void Recordset::Open(QIODevice& rowset)
+{
+    if (m_rows)
+        throw RunTimeError(ErrorNumber::ObjectOpen);
+    m_rows = ReadRowset(rowset);
+    m_connection = nullptr;
+    m_table.clear();
+    m_row = 0;
+    m_lastColumn = -1;
+    m_pending.clear();
+}
+
+void Recordset::Save(const QString& fileName, bool secret) const
+{
+    RequireOpen();
+    if (m_table.isEmpty())
+        throw RunTimeError(3219);
+    if (QFileInfo::exists(fileName))
+        throw RunTimeError(ErrorNumber::FileAlreadyExists);
+    std::vector<RowsetColumn> columns;
+    for (int i = 0; i < FieldCount(); ++i) {
+        const Engine::Declaration declared = m_connection->OpenEngine().Declared(m_table, FieldName(i));
+        columns.push_back({FieldName(i), declared.Type, !declared.NotNull, declared.AutoNumbered});
+    }
+    QFile file(fileName);
+    OpenFile(file, QIODevice::WriteOnly | QIODevice::NewOnly, secret);
+    WriteRowset(file, m_table, columns, *m_rows);
+    CloseWritten(file);
+}
+
 void Recordset::Fetch()
 {
+    if (m_connection == nullptr)
+        throw RunTimeError(3219);
     Engine& engine = m_connection->OpenEngine();
     m_connection->Record(m_statement);
     const TranslatedStatement translated = Translate(m_statement);

@@ -9,6 +9,7 @@
 #include <vector>
 
 class Connection;
+class QIODevice;
 class RowPack;
 
 enum class CursorLocation
@@ -62,8 +63,15 @@ public:
     /// Runs the selection; the first row becomes current. Raises 3705 where it is open, 3709 where the connection is closed,
     /// and the engine's errors.
     void Open(const QString& statement, Connection& connection);
+    /// Takes the rows of an XML rowset (RowsetReader.h); they can't be changed. Raises 3705 where it is open, EngineFailure
+    /// where the document is no rowset.
+    void Open(QIODevice& rowset);
     /// Raises 3704 where it is closed.
     void Close();
+    /// Writes the rows of a table, as they were fetched, as an XML rowset (RowsetWriter.h) into a new file, for its owner's
+    /// eyes only where `secret` is set. Raises 58 where the file exists, 3219 where the rows are not those of one table, and
+    /// the errors of files.
+    void Save(const QString& fileName, bool secret = false) const;
 
     /// The number of rows with a client cursor, otherwise -1.
     [[nodiscard]] int RecordCount() const;

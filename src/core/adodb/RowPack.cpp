@@ -13,17 +13,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // A cell is a mark of its type and its payload: 8 bytes of a number; or 4 of a length and the text.
-constexpr char nullMark = 0;
-constexpr char wholeMark = 1;
-constexpr char realMark = 2;
-constexpr char textMark = 3;
+using CellType = RowPack::CellType;
 
 template <typename Number>
-void Append(std::vector<char>& bytes, char mark, Number payload)
+void Append(std::vector<char>& bytes, CellType type, Number payload)
 {
     const size_t start = bytes.size();
     bytes.resize(start + 1 + sizeof payload);
-    bytes[start] = mark;
+    bytes[start] = static_cast<char>(type);
     std::memcpy(bytes.data() + start + 1, &payload, sizeof payload);
 }
 
@@ -39,7 +36,7 @@ Value RealValue(double number, ColumnKind kind)
 {
     switch (kind) {
     case ColumnKind::Currency:
-        return Value(Currency::FromScaled(std::llround(number * static_cast<double>(Currency::Scale))));
+        return Value(RoundedCurrency(number));
     case ColumnKind::Real:
         return Value(static_cast<Single>(number));
     case ColumnKind::Whole:
@@ -73,21 +70,38 @@ void RowPack::AppendRow(sqlite3_stmt* statement)
     for (int i = 0; i < count; ++i) {
         switch (sqlite3_column_type(statement, i)) {
         case SQLITE_INTEGER:
-            Append(m_bytes, wholeMark, static_cast<qint64>(sqlite3_column_int64(statement, i)));
+            ::Append(m_bytes, CellType::Whole, static_cast<qint64>(sqlite3_column_int64(statement, i)));
             break;
         case SQLITE_FLOAT:
-            Append(m_bytes, realMark, sqlite3_column_double(statement, i));
+            ::Append(m_bytes, CellType::Real, sqlite3_column_double(statement, i));
             break;
         case SQLITE_NULL:
-            m_bytes.push_back(nullMark);
+            m_bytes.push_back(static_cast<char>(CellType::Null));
             break;
         default: {
             const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, i));
-            const int length = sqlite3_column_bytes(statement, i);
-            Append(m_bytes, textMark, static_cast<quint32>(length));
-            m_bytes.insert(m_bytes.end(), text, text + length);
+            AppendText(text, sqlite3_column_bytes(statement, i));
         }
         }
+    }
+}
+
+void RowPack::AppendText(const char* text, qsizetype length)
+{
+    ::Append(m_bytes, CellType::Text, static_cast<quint32>(length));
+    m_bytes.insert(m_bytes.end(), text, text + length);
+}
+
+void RowPack::Append(const std::vector<std::optional<QString>>& texts)
+{
+    m_rowStarts.push_back(m_bytes.size());
+    for (const std::optional<QString>& text : texts) {
+        if (!text) {
+            m_bytes.push_back(static_cast<char>(CellType::Null));
+            continue;
+        }
+        const QByteArray stored = ToStored(*text);
+        AppendText(stored.constData(), stored.size());
     }
 }
 
@@ -97,11 +111,11 @@ void RowPack::LocateCells(qsizetype row) const
     size_t position = m_rowStarts[static_cast<size_t>(row)];
     for (int i = 0; i < m_columns->Count(); ++i) {
         m_cellStarts.push_back(position);
-        switch (m_bytes[position]) {
-        case nullMark:
+        switch (static_cast<CellType>(m_bytes[position])) {
+        case CellType::Null:
             position += 1;
             break;
-        case textMark:
+        case CellType::Text:
             position += 1 + sizeof(quint32) + Read<quint32>(m_bytes.data() + position + 1);
             break;
         default:
@@ -117,20 +131,43 @@ Value RowPack::At(qsizetype row, int column) const
         if (change.Row == row && change.Column == column)
             return change.NewValue;
     }
+    const Cell cell = CellAt(row, column);
+    const ColumnKind kind = m_columns->Kind(column);
+    switch (cell.Type) {
+    case CellType::Whole:
+        return WholeValue(cell.Whole, kind);
+    case CellType::Real:
+        return RealValue(cell.Real, kind);
+    case CellType::Text:
+        return Value(FromStored(cell.Text, cell.Length));
+    case CellType::Null:
+        break;
+    }
+    return {};
+}
+
+RowPack::Cell RowPack::CellAt(qsizetype row, int column) const
+{
     if (m_locatedRow != row)
         LocateCells(row);
-    const char* cell = m_bytes.data() + m_cellStarts[static_cast<size_t>(column)];
-    const ColumnKind kind = m_columns->Kind(column);
-    switch (cell[0]) {
-    case wholeMark:
-        return WholeValue(Read<qint64>(cell + 1), kind);
-    case realMark:
-        return RealValue(Read<double>(cell + 1), kind);
-    case textMark:
-        return Value(FromStored(cell + 1 + sizeof(quint32), Read<quint32>(cell + 1)));
-    default:
-        return {};
+    const char* bytes = m_bytes.data() + m_cellStarts[static_cast<size_t>(column)];
+    Cell cell;
+    cell.Type = static_cast<CellType>(bytes[0]);
+    switch (cell.Type) {
+    case CellType::Whole:
+        cell.Whole = Read<qint64>(bytes + 1);
+        break;
+    case CellType::Real:
+        cell.Real = Read<double>(bytes + 1);
+        break;
+    case CellType::Text:
+        cell.Length = Read<quint32>(bytes + 1);
+        cell.Text = bytes + 1 + sizeof(quint32);
+        break;
+    case CellType::Null:
+        break;
     }
+    return cell;
 }
 
 void RowPack::SetValue(qsizetype row, int column, Value value)
@@ -147,4 +184,9 @@ void RowPack::MarkDeleted(qsizetype row)
 bool RowPack::IsDeleted(qsizetype row) const
 {
     return m_deleted.contains(row);
+}
+
+Currency RoundedCurrency(double number)
+{
+    return Currency::FromScaled(std::llround(number * static_cast<double>(Currency::Scale)));
 }

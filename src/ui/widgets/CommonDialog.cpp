@@ -13,8 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int CancelWasSelected = 32755;
-
 CommonDialog::Source& CurrentSource()
 {
     static CommonDialog::Source source;

@@ -10,6 +10,8 @@ class QWidget;
 class CommonDialog
 {
 public:
+    static constexpr int CancelWasSelected = 32755;
+
     QString DialogTitle;
     /// As Qt writes filters: "Orvantine files (*.ocm);;All files (*)".
     QString Filter;
