@@ -13,7 +13,12 @@ constexpr int fileAlreadyOpen = 55;
 
 bool IsSameFile(const QString& one, const QString& other)
 {
-    return QFileInfo(one) == QFileInfo(other);
+    // Of files that are not there yet, the folders tell.
+    const QFileInfo first(one);
+    const QFileInfo second(other);
+    if (first.exists() && second.exists())
+        return first == second;
+    return first.fileName() == second.fileName() && QFileInfo(first.path()) == QFileInfo(second.path());
 }
 
 } // namespace
