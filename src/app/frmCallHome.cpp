@@ -76,6 +76,7 @@ frmCallHome::frmCallHome(const QUrl& address, int mostMilliseconds)
     , m_status(new QLabel)
 {
     setWindowTitle(u"Contact Pelmar Software"_s);
+    m_pages->setObjectName(u"pages"_s);
     m_pages->addWidget(MakeWhoPage());
     m_pages->addWidget(MakeCommentsPage());
     m_pages->addWidget(MakeReviewPage());

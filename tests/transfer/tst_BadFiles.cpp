@@ -1,1 +1,288 @@
-int main() { return 0; }
+#include "Agency.h"
+
+#include "core/RunTimeError.h"
+#include "transfer/AppendFileBytes.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum Section
+{
+    Contacts,
+    AlertRows,
+    Properties,
+    CategoryRows,
+    SubCategories,
+    Letters
+};
+
+/// A backup of the small agency, made once.
+const QList<QByteArray>& Backup()
+{
+    static const QList<QByteArray> sections = [] {
+        Agency agency(Agency::File::Small);
+        QList<QByteArray> made = SectionsOf(agency.Backup(u"all.xml"_s));
+        for (QByteArray& section : made)
+            section = section.trimmed();
+        return made;
+    }();
+    return sections;
+}
+
+QByteArray Joined(const QList<QByteArray>& sections)
+{
+    return sections.join();
+}
+
+/// The backup with one text in one of its sections changed.
+QByteArray Changed(Section section, const QByteArray& from, const QByteArray& to)
+{
+    QList<QByteArray> sections = Backup();
+    if (!sections[section].contains(from))
+        qFatal("the backup has no %s", from.constData());
+    sections[section].replace(from, to);
+    return Joined(sections);
+}
+
+QString Written(const Agency& agency, const QByteArray& bytes)
+{
+    QFile file(agency.FileOf(u"given.xml"_s));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(bytes) != bytes.size())
+        qFatal("the file can't be written");
+    return file.fileName();
+}
+
+/// Whether the program still works: a new contact can be saved.
+bool IsUsable()
+{
+    Contact contact;
+    contact.FirstName = u"New"_s;
+    contact.LastName = u"Comer"_s;
+    return contact.AddToDB(1) > 0;
+}
+
+} // namespace
+
+/// Files that no program wrote well. Each gives its box, and the program stays usable.
+class tst_BadFiles : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { static_cast<void>(Backup()); }
+    void ARefusedImportChangesNothing_data();
+    void ARefusedImportChangesNothing();
+    void ADamagedBackupIsReported_data();
+    void ADamagedBackupIsReported();
+    void ABackupCutOffAnywhereIsReported();
+    void WhatStoodBeforeAFaultStays();
+    void AFileThatIsNoneOfAnySection();
+    void LeftoversAreNoSections();
+    void AFullDiskIsReported();
+};
+
+void tst_BadFiles::ARefusedImportChangesNothing_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<bool>("restores");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("text");
+
+    const QString noBackup = u"I did not restore from the file that you have selected\r\n because it is not a database backup "
+                             "file."_s;
+    const QString noTransfer = u"I did not import from the file that you have selected\r\n because it is not a Contact Transfer "
+                               "File."_s;
+    QTest::newRow("a backup for an import") << Joined(Backup()) << false << u"Import Cancelled"_s << noTransfer;
+    QTest::newRow("a transfer file for a restore")
+        << Joined(Backup().mid(0, 5)) << true << u"Restore Cancelled"_s << noBackup;
+    QTest::newRow("any note with the word") << QByteArray("FormLetters") << false << u"Import Cancelled"_s << noTransfer;
+    QTest::newRow("another case of the word") << QByteArray("formletters") << true << u"Restore Cancelled"_s << noBackup;
+    // The word lies across the blocks in which the file is read.
+    QTest::newRow("the word far behind") << QByteArray((1 << 20) - 5, 'x') + "FormLetters" << false << u"Import Cancelled"_s
+                                         << noTransfer;
+    QTest::newRow("empty, import") << QByteArray() << false << u"ImportData Error #62"_s << u"Input past end of file"_s;
+    QTest::newRow("empty, restore") << QByteArray() << true << u"ImportData Error #62"_s << u"Input past end of file"_s;
+}
+
+void tst_BadFiles::ARefusedImportChangesNothing()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(bool, restores);
+    QFETCH(QString, title);
+    QFETCH(QString, text);
+    Agency agency(Agency::File::Small);
+    const QStringList before = FreshDatabase::WholeFile();
+    agency.Name(Written(agency, file));
+    agency.Person.Expect(title, text);
+    ImportData(restores);
+    QCOMPARE(FreshDatabase::WholeFile(), before);
+    QCOMPARE(gContacts.Count(), 3);
+    QVERIFY(!agency.Person.HourGlassIsOn());
+    QCOMPARE(agency.Leftovers(), QStringList());
+}
+
+void tst_BadFiles::ADamagedBackupIsReported_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QStringList>("reports");
+    QTest::addColumn<QList<int>>("rows"); // categories, subcategories, contacts, alerts, properties, letters
+
+    const QString noRowset = u"StartImport Error #"_s + QString::number(ErrorNumber::EngineFailure);
+    const QString noFile = u"ImportData Error #53"_s;
+    const QString done = u"Database Restored"_s;
+    const auto row = [](const char* name, const QByteArray& file, const QStringList& reports, const QList<int>& rows) {
+        QTest::newRow(name) << file << reports << rows;
+    };
+    const QList<QByteArray> all = Backup();
+    QList<QByteArray> without = all;
+    without.removeAt(CategoryRows);
+    QList<QByteArray> twice = all;
+    twice.insert(AlertRows, all[AlertRows]);
+    row("no closing tag", "Dear FormLetters", {noRowset, noFile}, {0, 0, 0, 0, 0, 0});
+    row("binary", QByteArray("\x00\xFF\n\x01 FormLetters \x80\r", 18), {noRowset, noFile}, {0, 0, 0, 0, 0, 0});
+    row("one missing", Joined(without), {u"StartImport Error #3265"_s, done}, {2, 0, 0, 0, 0, 0});
+    row("one twice", Joined(twice), {u"StartImport Error #3265"_s, done}, {0, 0, 0, 0, 0, 0});
+    row("letters missing", Joined(all.mid(0, 5)) + "FormLetters", {noRowset, done}, {2, 2, 3, 2, 1, 0});
+    row("a number too large", Changed(Contacts, "SubCategoryID='2'", "SubCategoryID='40000'"), {noRowset, done},
+        {2, 2, 0, 0, 0, 0});
+    row("no number", Changed(Properties, "SqFt='1500'", "SqFt='many'"), {noRowset, done}, {2, 2, 3, 2, 0, 0});
+    row("no date", Changed(AlertRows, "AlertDate='2/6/2026'", "AlertDate='soon'"), {u"StartImport Error #13"_s, done},
+        {2, 2, 3, 1, 0, 0});
+    row("an alert of nobody", Changed(AlertRows, "ContactID='3'", "ContactID='77'"), {done}, {2, 2, 3, 1, 1, 1});
+    row("a property of nobody", Changed(Properties, "ContactID='1'", "ContactID='77'"), {u"StartImport Error #424"_s, done},
+        {2, 2, 3, 2, 0, 0});
+    row("a contact of no subcategory", Changed(Contacts, "SubCategoryID='2'", "SubCategoryID='77'"), {done},
+        {2, 2, 3, 2, 1, 1});
+    row("a contact of no category", Changed(Contacts, "CategoryID='2' ", "CategoryID='77' "),
+        {u"StartImport Error #424"_s, done}, {2, 2, 3, 0, 0, 0});
+    row("a subcategory of nothing", Changed(SubCategories, "ParentID='2'", "ParentID='0'"), {done}, {2, 1, 3, 2, 1, 1});
+    row("a subcategory of a category that is not there", Changed(SubCategories, "ParentID='2'", "ParentID='77'"),
+        {u"StartImport Error #424"_s, done}, {2, 1, 0, 0, 0, 0});
+    row("one number twice", Changed(CategoryRows, "ID='2'", "ID='1'"), {u"StartImport Error #457"_s, done},
+        {2, 0, 0, 0, 0, 0});
+    row("two alerts of a contact on one day",
+        Changed(AlertRows, "ContactID='3' AlertDate='2/6/2026'", "ContactID='1' AlertDate='1/5/2026'"),
+        {u"StartImport Error #457"_s, done}, {2, 2, 3, 2, 0, 0});
+    row("a letter with an apostrophe", Changed(Letters, "Dear", "Don&#x27;t"),
+        {u"StartImport Error #"_s + QString::number(ErrorNumber::EngineSyntax), done}, {2, 2, 3, 2, 1, 0});
+    row("a property without a city", Changed(Properties, " City='Troy'", ""), {u"StartImport Error #94"_s, done},
+        {2, 2, 3, 2, 0, 0});
+    row("a contact without a note", Changed(Contacts, " Notes='two'", ""), {done}, {2, 2, 3, 2, 1, 1});
+    row("a note with a control", Changed(Contacts, "Notes='two'", "Notes='t\x07wo'"), {noRowset, done}, {2, 2, 0, 0, 0, 0});
+    row("a note with a reference to U+FFFF", Changed(Contacts, "Notes='two'", "Notes='&#xffff;'"), {noRowset, done},
+        {2, 2, 0, 0, 0, 0});
+    row("entities that grow", Changed(Contacts, "<xml ", "<!DOCTYPE xml [<!ENTITY a 'b'><!ENTITY c '&a;&a;'>]><xml "),
+        {noRowset, done}, {2, 2, 0, 0, 0, 0});
+}
+
+void tst_BadFiles::ADamagedBackupIsReported()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QStringList, reports);
+    QFETCH(QList<int>, rows);
+    Agency agency(Agency::File::Empty);
+    agency.Name(Written(agency, file));
+    agency.ExpectRestoreQuestion(Answer::Yes);
+    for (const QString& report : reports)
+        agency.Person.ExpectReport(report);
+    ImportData(true);
+    QList<int> got;
+    for (const auto table : {"Categories"_L1, "SubCategories"_L1, "Contacts"_L1, "Alerts"_L1, "PropDetail"_L1, "FormLetters"_L1})
+        got << static_cast<int>(FreshDatabase::Rows("Select ID from "_L1 + table).size());
+    QCOMPARE(got, rows);
+    QVERIFY(IsUsable());
+}
+
+void tst_BadFiles::ABackupCutOffAnywhereIsReported()
+{
+    const QByteArray whole = Joined(Backup());
+    int cuts = 0;
+    for (qsizetype length = 1000; length < whole.size(); length += 1000, ++cuts) {
+        Agency agency(Agency::File::Small);
+        const bool isBackup = whole.first(length).contains("FormLetters");
+        agency.Name(Written(agency, whole.first(length)));
+        if (isBackup)
+            agency.ExpectRestoreQuestion(Answer::Yes);
+        const bool lacksNothing = !isBackup && whole.first(length).count("</xml>") == 5;
+        if (!lacksNothing)
+            agency.Person.ExpectReport(u"StartImport Error #"_s + QString::number(ErrorNumber::EngineFailure));
+        // Only the last section may be cut off; one that is missing is a file that is missing.
+        const bool hasAllFiles = isBackup || whole.first(length).count("</xml>") >= 4;
+        agency.Person.ExpectReport(!hasAllFiles ? u"ImportData Error #53"_s
+                                   : isBackup   ? u"Database Restored"_s
+                                                : u"Contacts Imported"_s);
+        ImportData(isBackup);
+        QVERIFY(IsUsable());
+        if (QTest::currentTestFailed())
+            return;
+    }
+    QVERIFY(cuts > 10);
+}
+
+void tst_BadFiles::WhatStoodBeforeAFaultStays()
+{
+    Agency agency(Agency::File::Empty);
+    agency.Name(Written(agency, Changed(Letters, "Dear", "Don&#x27;t")));
+    agency.ExpectRestoreQuestion(Answer::Yes);
+    agency.Person.ExpectReport(u"StartImport Error #"_s + QString::number(ErrorNumber::EngineSyntax));
+    agency.Person.ExpectReport(u"Database Restored"_s);
+    ImportData(true);
+    QVERIFY(!agency.Person.HourGlassIsOn());
+    agency.StartAnew();
+    QCOMPARE(gContacts.Count(), 3);
+    QCOMPARE(gAlerts.Count(), 2);
+    QCOMPARE(FreshDatabase::Rows(u"Select Addr1 from PropDetail"_s), QStringList{u"1 Elm Street"_s});
+}
+
+void tst_BadFiles::AFileThatIsNoneOfAnySection()
+{
+    Agency agency(Agency::File::Small);
+    const QStringList before = FreshDatabase::WholeFile();
+    agency.Name(Written(agency, "just a text"));
+    agency.Person.ExpectReport(u"StartImport Error #"_s + QString::number(ErrorNumber::EngineFailure));
+    agency.Person.ExpectReport(u"ImportData Error #53"_s);
+    ImportData(false);
+    QCOMPARE(FreshDatabase::WholeFile(), before);
+    // A fault of this procedure leaves what it made, which is meant.
+    QVERIFY(agency.Person.HourGlassIsOn());
+    QCOMPARE(agency.Leftovers(), QStringList{u"ContactImport.xml"_s});
+}
+
+void tst_BadFiles::LeftoversAreNoSections()
+{
+    Agency agency(Agency::File::Empty);
+    const QStringList names{u"ContactImport.xml"_s, u"AlertImport.xml"_s, u"PropertyImport.xml"_s, u"CategoryImport.xml"_s,
+                            u"SubCategoryImport.xml"_s};
+    for (int i = 0; i < names.size(); ++i) {
+        QFile leftover(agency.FileOf(u"Data/"_s + names[i]));
+        QVERIFY(leftover.open(QIODevice::WriteOnly) && leftover.write(Backup()[i]) > 0);
+    }
+    agency.Name(Written(agency, "just a text"));
+    agency.Person.ExpectReport(u"StartImport Error #"_s + QString::number(ErrorNumber::EngineFailure));
+    agency.Person.ExpectReport(u"ImportData Error #53"_s);
+    ImportData(false);
+    QCOMPARE(FreshDatabase::Rows(u"Select ID from Categories"_s), QStringList());
+}
+
+void tst_BadFiles::AFullDiskIsReported()
+{
+    Agency agency(Agency::File::Small);
+    QFile full(u"/dev/full"_s);
+    if (!full.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+        QSKIP("this system has no full disk to offer");
+    QDir(agency.Database.Folder()).mkdir(u"out"_s);
+    QVERIFY(QFile::link(u"/dev/full"_s, agency.FileOf(u"out/full"_s)));
+    try {
+        AppendFileBytes(agency.Database.DatabaseFile(), agency.FileOf(u"out/full"_s));
+        QFAIL("a full disk took the bytes");
+    } catch (const RunTimeError& error) {
+        QCOMPARE(error.Number(), ErrorNumber::DiskFull);
+    }
+    agency.Name(u"none/backup.xml"_s);
+    agency.Person.Expect(QString::number(ErrorNumber::PathNotFound), u"frmMain ExportData: Path not found"_s);
+    ExportData(u"All"_s);
+}
+
+QTEST_MAIN(tst_BadFiles)
+#include "tst_BadFiles.moc"
