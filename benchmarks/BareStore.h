@@ -61,9 +61,11 @@ public:
     /// Deletes contacts with their properties and alerts.
     void Delete(const std::vector<long long>& contactIDs) const;
 
-private:
+protected:
     void Run(const std::string& statement) const;
+    [[nodiscard]] sqlite3* Handle() const { return m_database.get(); }
 
+private:
     struct Close
     {
         void operator()(sqlite3* database) const;

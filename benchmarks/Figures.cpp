@@ -10,6 +10,7 @@ namespace {
 constexpr double loadLimit = 0.7;
 constexpr double memoryLimit = 4096; // bytes for a contact
 constexpr double startLimit = 2.5;
+constexpr double transferLimit = 2;
 constexpr double newContactLimit = 4; // from the smallest size to the largest
 constexpr double growthLimit = 1.3;   // times the growth of the yardstick
 
@@ -81,7 +82,8 @@ std::vector<Figures::Line> Figures::Lines(const std::vector<int>& sizes) const
     };
     constexpr std::array titles{Title{"Load", "Loading", loadLimit}, Title{"Start", "Start", startLimit},
                                 Title{"FillList", "Filling the list", 0}, Title{"OpenSubcategory", "Opening a 20th", 0},
-                                Title{"DeleteHighlighted", "Deleting a 20th", 0}};
+                                Title{"DeleteHighlighted", "Deleting a 20th", 0},
+                                Title{"Backup", "Backup", transferLimit}, Title{"Restore", "Restore", transferLimit}};
     const int first = sizes.front();
     const int last = sizes.back();
     const int before = sizes[sizes.size() - 2];

@@ -116,13 +116,15 @@ void tst_CallHome::ARefusalIsToldAndNothingIsLost_data()
     QTest::addColumn<QString>("address"); // empty for the server's own
     QTest::addColumn<QString>("words");
 
-    QTest::newRow("refused") << AnswerOf("503 Busy") << u""_s
-                             << u"I could not send your comments because the other end did not take them (its answer was 503)."_s;
-    QTest::newRow("sent elsewhere") << QByteArray("HTTP/1.1 302 Found\r\nLocation: http://127.0.0.1:1/\r\nContent-Length: 0\r\n\r\n")
-                                    << u""_s
-                                    << u"I could not send your comments because the other end did not take them (its answer was 302)."_s;
-    QTest::newRow("nobody there") << QByteArray() << u"http://127.0.0.1:1/"_s
-                                  << u"I could not send your comments because nobody takes them at the other end just now."_s;
+    QTest::newRow("refused")
+        << AnswerOf("503 Busy") << u""_s
+        << u"I could not send your comments because the other end did not take them (its answer was 503)."_s;
+    QTest::newRow("sent elsewhere")
+        << QByteArray("HTTP/1.1 302 Found\r\nLocation: http://127.0.0.1:1/\r\nContent-Length: 0\r\n\r\n") << u""_s
+        << u"I could not send your comments because the other end did not take them (its answer was 302)."_s;
+    QTest::newRow("nobody there")
+        << QByteArray() << u"http://127.0.0.1:1/"_s
+        << u"I could not send your comments because nobody takes them at the other end just now."_s;
     QTest::newRow("offline") << QByteArray() << u"http://orvantine.invalid/"_s
                              << u"I could not send your comments because I did not find a way to the Internet."_s;
     QTest::newRow("slow") << QByteArray() << u""_s
@@ -141,8 +143,8 @@ void tst_CallHome::ARefusalIsToldAndNothingIsLost()
     FillIn(form);
     ClickOn(form, u"cmdNext"_s);
     QCOMPARE(Status(form), u"I am sending your comments…"_s);
-    QTRY_COMPARE_WITH_TIMEOUT(Status(form),
-                              words + u" Nothing is lost: you can send them again, now or later."_s, 20'000);
+    QTRY_COMPARE_WITH_TIMEOUT(Status(form), words + u" Nothing is lost: you can send them again, now or later."_s,
+                              20'000);
     QVERIFY(server.Requests.size() <= 1);
     QVERIFY(Control<QPushButton>(form, u"cmdNext"_s).isEnabled());
     ClickOn(form, u"cmdBack"_s);

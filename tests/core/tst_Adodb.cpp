@@ -32,6 +32,7 @@ private Q_SLOTS:
     void ColumnsKeepTheirKinds();
     void AReadingLetsOwnWritesThroughAndFreesTheFile();
     void AFileThatVanishedTakesNoWritesAndIsUsableWhenItIsBack();
+    void StatementsThatShareCommitsKeepAllBeforeAFailure();
 
 private:
     static QByteArray Content(const QString& file);
@@ -278,6 +279,50 @@ void tst_Adodb::AFileThatVanishedTakesNoWritesAndIsUsableWhenItIsBack()
     QVERIFY(QFile::rename(fresh.DatabaseFile() + u".away"_s, fresh.DatabaseFile()));
     gConn.Execute(u"Insert into Categories (Description) Values ('c')"_s);
     QCOMPARE(FreshDatabase::Rows(u"Select Description from Categories"_s), (QStringList{u"a"_s, u"c"_s}));
+}
+
+void tst_Adodb::StatementsThatShareCommitsKeepAllBeforeAFailure()
+{
+    const FreshDatabase fresh;
+    const auto add = [](const QString& name) {
+        gConn.Execute(u"Insert into Categories (Description) Values ('"_s + name + u"')"_s);
+    };
+    // What another program sees: only what is committed.
+    const auto committed = [&fresh] {
+        Connection other;
+        other.Open(u"Dbq="_s + fresh.DatabaseFile() + u";Password=kostrevy48"_s);
+        Recordset rows;
+        rows.CursorLocation = CursorLocation::UseClient;
+        rows.Open(u"Select * from Categories"_s, other);
+        return rows.RecordCount();
+    };
+    gConn.ShareCommits([&] {
+        add(u"a"_s);
+        QCOMPARE(FreshDatabase::Rows(u"Select Description from Categories"_s), QStringList{u"a"_s});
+        QCOMPARE(committed(), 0);
+        QCOMPARE(ErrorOf([&] { add(u"it's"_s); }), ErrorNumber::EngineSyntax);
+        QCOMPARE(ErrorOf([] { gConn.Execute(u"Insert into Alerts (ContactID) Values ('x')"_s); }),
+                 ErrorNumber::EngineTypeMismatch);
+        QCOMPARE(committed(), 1);
+        add(u"b"_s);
+    });
+    QCOMPARE(committed(), 2);
+    QCOMPARE(ErrorOf([&] {
+                 gConn.ShareCommits([&] {
+                     add(u"c"_s);
+                     throw RunTimeError(ErrorNumber::KeyAlreadyThere);
+                 });
+             }),
+             ErrorNumber::KeyAlreadyThere);
+    QCOMPARE(committed(), 3);
+    add(u"d"_s);
+    QCOMPARE(committed(), 4);
+    gConn.ShareCommits([&] {
+        for (int i = 0; i < 1500; ++i)
+            add(QString::number(i));
+        QCOMPARE(committed(), 1004);
+    });
+    QCOMPARE(committed(), 1504);
 }
 
 QTEST_APPLESS_MAIN(tst_Adodb)

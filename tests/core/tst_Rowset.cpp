@@ -10,8 +10,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto spaces = "xmlns:s='uuid:BDC6E3F0-6DA3-11d1-A2A3-00AA00C14882' xmlns:dt='uuid:C2F41010-65B3-11d1-A29F-00AA00C14882' "
-                        "xmlns:rs='urn:schemas-microsoft-com:rowset' xmlns:z='#RowsetSchema'";
+constexpr auto spaces =
+    "xmlns:s='uuid:BDC6E3F0-6DA3-11d1-A2A3-00AA00C14882' xmlns:dt='uuid:C2F41010-65B3-11d1-A29F-00AA00C14882' "
+    "xmlns:rs='urn:schemas-microsoft-com:rowset' xmlns:z='#RowsetSchema'";
 
 /// A rowset with the columns ID (int), N (of a type) and T (a text), and this in its data.
 QByteArray Rowset(const QByteArray& data, const QByteArray& type = "i2")
@@ -86,26 +87,39 @@ void tst_Rowset::WhatOtherWritersDoIsTaken_data()
     row("another order, undeclared and absent attributes", Rowset("<z:row Q='7' T='x' ID='1'/>"), {u"1|-|x"_s});
     row("an empty text is no Null", Rowset("<z:row ID='1' T=''/>"), {u"1|-|"_s});
     row("raw breaks and tab in a value", Rowset("<z:row ID='1' T='a\r\nb\nc\td\re'/>"), {u"1|-|a\r\nb\nc\td\re"_s});
-    row("references and entities", Rowset("<z:row ID='1' T='&#x41;&#x3C;&#65;&lt;&gt;&quot;&apos;&amp;&#xd;&#xa;&#x1F600;'/>"),
+    row("references and entities",
+        Rowset("<z:row ID='1' T='&#x41;&#x3C;&#65;&lt;&gt;&quot;&apos;&amp;&#xd;&#xa;&#x1F600;'/>"),
         {u"1|-|A<A<>\"'&\r\n\U0001F600"_s});
     row("tags over lines", Rowset("<z:row\r\n\t\t ID='1'\n\tN='2'\r\n\t\tT='x'\r\n/>"), x);
     row("element with an end tag", Rowset("<z:row ID='1' N='2' T='x'> </z:row>"), x);
     row("a mark in front", "\xEF\xBB\xBF" + plain, x);
-    row("blank lines and a declaration in front", "\r\n \r\n<?xml version='1.0' encoding='UTF-8'?>\r\n" + plain + "\r\n\r\n", x);
-    row("comments with quotes", "<!-- it's -->" + QByteArray(plain).replace("<rs:data>", "<rs:data><!-- don't > -->"), x);
+    row("blank lines and a declaration in front",
+        "\r\n \r\n<?xml version='1.0' encoding='UTF-8'?>\r\n" + plain + "\r\n\r\n", x);
+    row("comments with quotes", "<!-- it's -->" + QByteArray(plain).replace("<rs:data>", "<rs:data><!-- don't > -->"),
+        x);
     row("another instruction", QByteArray(plain).replace("<rs:data>", "<rs:data><?note it's fine?>"), x);
     row("other prefixes", QByteArray(plain).replace("xmlns:z=", "xmlns:rows=").replace("<z:row", "<rows:row"), x);
-    row("unknown schema attributes", QByteArray(plain).replace("rs:number='2'", "rs:number='2' rs:basecatalog='C:\\x' rs:hidden='true'"), x);
+    row("unknown schema attributes",
+        QByteArray(plain).replace("rs:number='2'", "rs:number='2' rs:basecatalog='C:\\x' rs:hidden='true'"), x);
     row("columns by number", QByteArray(plain).replace("rs:number='1'", "rs:number='4'"), {u"2|x|1"_s});
-    row("another name", QByteArray(plain).replace("name='N' rs:number", "name='c2' rs:name='The N' rs:number").replace(" N='2'", " c2='2'"), x);
-    row("the type on the column", QByteArray(plain).replace("rs:number='2'><s:datatype dt:type='i2'/></s:AttributeType>", "rs:number='2' dt:type='i2'/>"), x);
-    row("new rows that wait", Rowset("<z:row ID='1' N='2' T='x'/><rs:insert><z:row ID='2'/><z:row ID='3'/></rs:insert>"),
+    row("another name",
+        QByteArray(plain)
+            .replace("name='N' rs:number", "name='c2' rs:name='The N' rs:number")
+            .replace(" N='2'", " c2='2'"),
+        x);
+    row("the type on the column",
+        QByteArray(plain).replace("rs:number='2'><s:datatype dt:type='i2'/></s:AttributeType>",
+                                  "rs:number='2' dt:type='i2'/>"),
+        x);
+    row("new rows that wait",
+        Rowset("<z:row ID='1' N='2' T='x'/><rs:insert><z:row ID='2'/><z:row ID='3'/></rs:insert>"),
         {u"1|2|x"_s, u"2|-|-"_s, u"3|-|-"_s});
     row("deleted rows that wait", Rowset("<rs:delete><z:row ID='9'/></rs:delete><z:row ID='1' N='2' T='x'/>"), x);
     row("changed rows that wait",
         Rowset("<rs:update><rs:original><z:row ID='1' N='2' T='old'/></rs:original><z:row T='x'/></rs:update>"), x);
     row("forced to Null",
-        Rowset("<rs:update><rs:original><z:row ID='1' N='2' T='x'/></rs:original><z:row rs:forcenull='N T'/></rs:update>"),
+        Rowset(
+            "<rs:update><rs:original><z:row ID='1' N='2' T='x'/></rs:original><z:row rs:forcenull='N T'/></rs:update>"),
         {u"1|-|-"_s});
 }
 
@@ -139,7 +153,8 @@ void tst_Rowset::WhatIsNoRowsetIsRefused_data()
     QTest::newRow("a document type") << "<!DOCTYPE xml [<!ENTITY a 'b'>]>" + plain;
     QByteArray laughs = "<!DOCTYPE xml [<!ENTITY l0 'lol'>";
     for (int i = 1; i < 30; ++i)
-        laughs += "<!ENTITY l" + QByteArray::number(i) + " '" + QByteArray("&l" + QByteArray::number(i - 1) + ';').repeated(10) + "'>";
+        laughs += "<!ENTITY l" + QByteArray::number(i) + " '" +
+                  QByteArray("&l" + QByteArray::number(i - 1) + ';').repeated(10) + "'>";
     QTest::newRow("a billion laughs") << laughs + "]>" + QByteArray(plain).replace("T='x'", "T='&l29;'");
     for (qsizetype length = 0; length < plain.size(); length += 97)
         QTest::addRow("cut off at %d", static_cast<int>(length)) << plain.first(length);
@@ -212,7 +227,9 @@ void tst_Rowset::EveryTextComesBack_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("back");
 
-    const auto row = [](const char* name, const QString& text, const QString& back) { QTest::newRow(name) << text << back; };
+    const auto row = [](const char* name, const QString& text, const QString& back) {
+        QTest::newRow(name) << text << back;
+    };
     const auto same = [&row](const char* name, const QString& text) { row(name, text, text); };
     same("the signs of XML", u"Joe's \"Tern\" & Co <b>]]></xml>"_s);
     same("breaks", u"one\r\ntwo\nthree\rfour\t"_s);
@@ -230,7 +247,8 @@ void tst_Rowset::EveryTextComesBack()
     QFETCH(QString, text);
     QFETCH(QString, back);
     const FreshDatabase database;
-    FreshDatabase::Execute(u"Insert into FormLetters (FormName,FormText) values ('"_s + FixQuotes(text) + u"','end')"_s);
+    FreshDatabase::Execute(u"Insert into FormLetters (FormName,FormText) values ('"_s + FixQuotes(text) +
+                           u"','end')"_s);
     Recordset rows;
     rows.LockType = LockType::Pessimistic;
     rows.Open(u"Select * from FormLetters"_s, gConn);
@@ -250,8 +268,9 @@ void tst_Rowset::EveryTextComesBack()
 void tst_Rowset::NumbersAreWrittenAsPublished()
 {
     const FreshDatabase database;
-    FreshDatabase::Execute(u"Insert into PropDetail (State,Rooms,Baths,MaintFee,AssocFee,RentalAmount,AskingPrice,SoldPrice,"
-                           "SqFt) Values (9,1.25,1.5E+10,-7.89,0,1234.5600,0.0001,99999999.99,-32768)"_s);
+    FreshDatabase::Execute(
+        u"Insert into PropDetail (State,Rooms,Baths,MaintFee,AssocFee,RentalAmount,AskingPrice,SoldPrice,"
+        "SqFt) Values (9,1.25,1.5E+10,-7.89,0,1234.5600,0.0001,99999999.99,-32768)"_s);
     Recordset rows;
     rows.LockType = LockType::Pessimistic;
     rows.Open(u"Select * from PropDetail"_s, gConn);

@@ -28,10 +28,12 @@ void ComesBack(const uint8_t* data, size_t size)
     QString expected = TextOf(data, size);
     for (qsizetype i = 0; i < expected.size(); ++i) {
         const char16_t unit = expected.at(i).unicode();
-        const bool pair = QChar::isHighSurrogate(unit) && i + 1 < expected.size() && expected.at(i + 1).isLowSurrogate();
+        const bool pair =
+            QChar::isHighSurrogate(unit) && i + 1 < expected.size() && expected.at(i + 1).isLowSurrogate();
         if (pair)
             ++i;
-        else if ((unit < 0x20 && unit != u'\t' && unit != u'\r' && unit != u'\n') || QChar::isSurrogate(unit) || unit >= 0xFFFE)
+        else if ((unit < 0x20 && unit != u'\t' && unit != u'\r' && unit != u'\n') || QChar::isSurrogate(unit) ||
+                 unit >= 0xFFFE)
             expected[i] = QChar::ReplacementCharacter;
     }
     // Bytes that are no text at all may be told by more or fewer signs than the toolkit makes of them.

@@ -31,8 +31,8 @@ public:
     enum class File
     {
         Empty,
-        /// Buyers: First home: 1 Ann Lee with a property and an alert, 2 Bob M Ray.  Sellers: Houses: 3 Cy Day with an alert.
-        /// And a letter.
+        /// Buyers: First home: 1 Ann Lee with a property and an alert, 2 Bob M Ray.  Sellers: Houses: 3 Cy Day with an
+        /// alert. And a letter.
         Small
     };
 
@@ -84,13 +84,15 @@ public:
     {
         Name(file);
         ExpectRestoreQuestion(Answer::Yes);
-        Person.Expect(QStringLiteral("Database Restored"), QStringLiteral("I have successfully restored your database."));
+        Person.Expect(QStringLiteral("Database Restored"),
+                      QStringLiteral("I have successfully restored your database."));
         ImportData(true);
     }
     void Import(const QString& file)
     {
         Name(file);
-        Person.Expect(QStringLiteral("Contacts Imported"), QStringLiteral("I have successfully imported your contacts."));
+        Person.Expect(QStringLiteral("Contacts Imported"),
+                      QStringLiteral("I have successfully imported your contacts."));
         ImportData(false);
     }
 
@@ -150,16 +152,23 @@ private:
     static void Fill()
     {
         for (const char* statement :
-             {"Insert into Categories (Description) Values ('Buyers')", "Insert into Categories (Description) Values ('Sellers')",
+             {"Insert into Categories (Description) Values ('Buyers')",
+              "Insert into Categories (Description) Values ('Sellers')",
               "Insert into SubCategories (Description,ParentID) Values ('First home',1)",
               "Insert into SubCategories (Description,ParentID) Values ('Houses',2)",
-              "Insert into Contacts (CategoryID,SubCategoryID,FirstName,MI,LastName,Email) Values (1,1,'Ann','','Lee','ann@x')",
-              "Insert into Contacts (CategoryID,SubCategoryID,FirstName,MI,LastName,Notes) Values (1,1,'Bob','M','Ray','two')",
+              "Insert into Contacts (CategoryID,SubCategoryID,FirstName,MI,LastName,Email) Values "
+              "(1,1,'Ann','','Lee','ann@x')",
+              "Insert into Contacts (CategoryID,SubCategoryID,FirstName,MI,LastName,Notes) Values "
+              "(1,1,'Bob','M','Ray','two')",
               "Insert into Contacts (CategoryID,SubCategoryID,FirstName,MI,LastName) Values (2,2,'Cy','','Day')",
-              "Insert Into PropDetail (Addr1,Addr2,City,State,Zip,Zip4,ContactID,MLS,Subdivision,PropType,Construction,SqFt,"
-              "Roof,Parking,Rooms,Baths,Floor,Pool,MaintFee,AssocFee,Waterfront,Floodzone,Rented,RentalBasis,RentalAmount,"
-              "LeaseExpires,Elevator,PetsAllowed,ListingDate,AskingPrice,ExpDate,ClosingDate,SoldDate,SoldPrice) Values ("
-              "'1 Elm Street','','Troy',5,'19000','',1,'M1','',1,2,1500,0,0,7,2.5,0,0,0,12.5,'1','2','0',0,900,'','1','2',"
+              "Insert Into PropDetail "
+              "(Addr1,Addr2,City,State,Zip,Zip4,ContactID,MLS,Subdivision,PropType,Construction,SqFt,"
+              "Roof,Parking,Rooms,Baths,Floor,Pool,MaintFee,AssocFee,Waterfront,Floodzone,Rented,RentalBasis,"
+              "RentalAmount,"
+              "LeaseExpires,Elevator,PetsAllowed,ListingDate,AskingPrice,ExpDate,ClosingDate,SoldDate,SoldPrice) "
+              "Values ("
+              "'1 Elm "
+              "Street','','Troy',5,'19000','',1,'M1','',1,2,1500,0,0,7,2.5,0,0,0,12.5,'1','2','0',0,900,'','1','2',"
               "'1/5/2026',250000.5,'','','',0)",
               "Insert into Alerts (ContactID,AlertDate,AlertNote) Values (1,'1/5/2026','Call Ann')",
               "Insert into Alerts (ContactID,AlertDate,AlertNote) Values (3,'2/6/2026','Write to Cy')",

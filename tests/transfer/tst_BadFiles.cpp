@@ -89,18 +89,22 @@ void tst_BadFiles::ARefusedImportChangesNothing_data()
     QTest::addColumn<QString>("title");
     QTest::addColumn<QString>("text");
 
-    const QString noBackup = u"I did not restore from the file that you have selected\r\n because it is not a database backup "
-                             "file."_s;
-    const QString noTransfer = u"I did not import from the file that you have selected\r\n because it is not a Contact Transfer "
-                               "File."_s;
+    const QString noBackup =
+        u"I did not restore from the file that you have selected\r\n because it is not a database backup "
+        "file."_s;
+    const QString noTransfer =
+        u"I did not import from the file that you have selected\r\n because it is not a Contact Transfer "
+        "File."_s;
     QTest::newRow("a backup for an import") << Joined(Backup()) << false << u"Import Cancelled"_s << noTransfer;
     QTest::newRow("a transfer file for a restore")
         << Joined(Backup().mid(0, 5)) << true << u"Restore Cancelled"_s << noBackup;
-    QTest::newRow("any note with the word") << QByteArray("FormLetters") << false << u"Import Cancelled"_s << noTransfer;
-    QTest::newRow("another case of the word") << QByteArray("formletters") << true << u"Restore Cancelled"_s << noBackup;
+    QTest::newRow("any note with the word")
+        << QByteArray("FormLetters") << false << u"Import Cancelled"_s << noTransfer;
+    QTest::newRow("another case of the word")
+        << QByteArray("formletters") << true << u"Restore Cancelled"_s << noBackup;
     // The word lies across the blocks in which the file is read.
-    QTest::newRow("the word far behind") << QByteArray((1 << 20) - 5, 'x') + "FormLetters" << false << u"Import Cancelled"_s
-                                         << noTransfer;
+    QTest::newRow("the word far behind") << QByteArray((1 << 20) - 5, 'x') + "FormLetters" << false
+                                         << u"Import Cancelled"_s << noTransfer;
     QTest::newRow("empty, import") << QByteArray() << false << u"ImportData Error #62"_s << u"Input past end of file"_s;
     QTest::newRow("empty, restore") << QByteArray() << true << u"ImportData Error #62"_s << u"Input past end of file"_s;
 }
@@ -150,8 +154,8 @@ void tst_BadFiles::ADamagedBackupIsReported_data()
     row("no date", Changed(AlertRows, "AlertDate='2/6/2026'", "AlertDate='soon'"), {u"StartImport Error #13"_s, done},
         {2, 2, 3, 1, 0, 0});
     row("an alert of nobody", Changed(AlertRows, "ContactID='3'", "ContactID='77'"), {done}, {2, 2, 3, 1, 1, 1});
-    row("a property of nobody", Changed(Properties, "ContactID='1'", "ContactID='77'"), {u"StartImport Error #424"_s, done},
-        {2, 2, 3, 2, 0, 0});
+    row("a property of nobody", Changed(Properties, "ContactID='1'", "ContactID='77'"),
+        {u"StartImport Error #424"_s, done}, {2, 2, 3, 2, 0, 0});
     row("a contact of no subcategory", Changed(Contacts, "SubCategoryID='2'", "SubCategoryID='77'"), {done},
         {2, 2, 3, 2, 1, 1});
     row("a contact of no category", Changed(Contacts, "CategoryID='2' ", "CategoryID='77' "),
@@ -169,7 +173,8 @@ void tst_BadFiles::ADamagedBackupIsReported_data()
     row("a property without a city", Changed(Properties, " City='Troy'", ""), {u"StartImport Error #94"_s, done},
         {2, 2, 3, 2, 0, 0});
     row("a contact without a note", Changed(Contacts, " Notes='two'", ""), {done}, {2, 2, 3, 2, 1, 1});
-    row("a note with a control", Changed(Contacts, "Notes='two'", "Notes='t\x07wo'"), {noRowset, done}, {2, 2, 0, 0, 0, 0});
+    row("a note with a control", Changed(Contacts, "Notes='two'", "Notes='t\x07wo'"), {noRowset, done},
+        {2, 2, 0, 0, 0, 0});
     row("a note with a reference to U+FFFF", Changed(Contacts, "Notes='two'", "Notes='&#xffff;'"), {noRowset, done},
         {2, 2, 0, 0, 0, 0});
     row("entities that grow", Changed(Contacts, "<xml ", "<!DOCTYPE xml [<!ENTITY a 'b'><!ENTITY c '&a;&a;'>]><xml "),
@@ -188,7 +193,8 @@ void tst_BadFiles::ADamagedBackupIsReported()
         agency.Person.ExpectReport(report);
     ImportData(true);
     QList<int> got;
-    for (const auto table : {"Categories"_L1, "SubCategories"_L1, "Contacts"_L1, "Alerts"_L1, "PropDetail"_L1, "FormLetters"_L1})
+    for (const auto table :
+         {"Categories"_L1, "SubCategories"_L1, "Contacts"_L1, "Alerts"_L1, "PropDetail"_L1, "FormLetters"_L1})
         got << static_cast<int>(FreshDatabase::Rows("Select ID from "_L1 + table).size());
     QCOMPARE(got, rows);
     QVERIFY(IsUsable());
@@ -252,8 +258,8 @@ void tst_BadFiles::AFileThatIsNoneOfAnySection()
 void tst_BadFiles::LeftoversAreNoSections()
 {
     Agency agency(Agency::File::Empty);
-    const QStringList names{u"ContactImport.xml"_s, u"AlertImport.xml"_s, u"PropertyImport.xml"_s, u"CategoryImport.xml"_s,
-                            u"SubCategoryImport.xml"_s};
+    const QStringList names{u"ContactImport.xml"_s, u"AlertImport.xml"_s, u"PropertyImport.xml"_s,
+                            u"CategoryImport.xml"_s, u"SubCategoryImport.xml"_s};
     for (int i = 0; i < names.size(); ++i) {
         QFile leftover(agency.FileOf(u"Data/"_s + names[i]));
         QVERIFY(leftover.open(QIODevice::WriteOnly) && leftover.write(Backup()[i]) > 0);

@@ -58,8 +58,8 @@ QString Expected(Section section, const QString& column, const QString& value)
     if (section != Properties)
         return value;
     static const QStringList lost{u"Notes"_s, u"Picture"_s, u"Video"_s};
-    static const QStringList unset{u"Waterfront"_s, u"Floodzone"_s, u"Rented"_s, u"Elevator"_s, u"PetsAllowed"_s,
-                                   u"RentalAmount"_s};
+    static const QStringList unset{u"Waterfront"_s, u"Floodzone"_s,   u"Rented"_s,
+                                   u"Elevator"_s,   u"PetsAllowed"_s, u"RentalAmount"_s};
     return lost.contains(column) ? u"(null)"_s : unset.contains(column) ? u"0"_s : value;
 }
 
@@ -197,13 +197,14 @@ void tst_RoundTrip::TheListOfTheSelectedIsWrittenAsTold()
     QCOMPARE(GetSelected(u"Other"_s), QString());
     agency.Export(u"Selected"_s, u"two"_s, u"Contact Export Done"_s, u"I have successfully exported your contacts."_s);
     QCOMPARE(agency.Asked, u"What file do you want me to export to?|ContactTransfer|xml"_s);
-    QCOMPARE(agency.Database.TakeStatements(),
-             (QStringList{
-                 u"select * from Contacts where ID in  (3, 1)"_s, u"Select * from PropDetail where ContactID in (3, 1)"_s,
-                 u"Select * from SubCategories Where ID in (SELECT SubCategoryID FROM Contacts where ID in (3, 1))"_s,
-                 u"Select * from Categories Where ID in (Select ParentID from SubCategories Where ID in (SELECT "
-                 "SubCategoryID FROM Contacts where ID in (3, 1)))"_s,
-                 u"Select * from Alerts Where ContactID in  (3, 1)"_s}));
+    QCOMPARE(
+        agency.Database.TakeStatements(),
+        (QStringList{
+            u"select * from Contacts where ID in  (3, 1)"_s, u"Select * from PropDetail where ContactID in (3, 1)"_s,
+            u"Select * from SubCategories Where ID in (SELECT SubCategoryID FROM Contacts where ID in (3, 1))"_s,
+            u"Select * from Categories Where ID in (Select ParentID from SubCategories Where ID in (SELECT "
+            "SubCategoryID FROM Contacts where ID in (3, 1)))"_s,
+            u"Select * from Alerts Where ContactID in  (3, 1)"_s}));
     // An empty list is the engine's fault to tell.
     while (!gSelected.IsEmpty()) {
         curContact = ContactAt(gSelected.Last());
@@ -231,14 +232,16 @@ void tst_RoundTrip::AnImportJoinsCategoriesOfTheSameName()
     FreshDatabase::Execute(u"Insert into Categories (Description) Values ('Vendors')"_s);
     FreshDatabase::Execute(u"Insert into Categories (Description) Values (' BUYERS')"_s);
     FreshDatabase::Execute(u"Insert into SubCategories (Description,ParentID) Values ('FIRST HOME ',2)"_s);
-    FreshDatabase::Execute(u"Insert into Contacts (CategoryID,SubCategoryID,FirstName,MI,LastName,Email,Company) Values "
-                           "(2,1,'ANN ','','lee','old','Old & Co')"_s);
+    FreshDatabase::Execute(
+        u"Insert into Contacts (CategoryID,SubCategoryID,FirstName,MI,LastName,Email,Company) Values "
+        "(2,1,'ANN ','','lee','old','Old & Co')"_s);
     to.StartAnew();
     QFile file(to.FileOf(u"two.xml"_s));
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(transfer) == transfer.size());
     file.close();
     to.Import(file.fileName());
-    QCOMPARE(FreshDatabase::Rows(u"Select Description from Categories"_s), (QStringList{u"Vendors"_s, u" BUYERS"_s, u"Sellers"_s}));
+    QCOMPARE(FreshDatabase::Rows(u"Select Description from Categories"_s),
+             (QStringList{u"Vendors"_s, u" BUYERS"_s, u"Sellers"_s}));
     QCOMPARE(FreshDatabase::Rows(u"Select Description,ParentID from SubCategories"_s),
              (QStringList{u"FIRST HOME |2"_s, u"Houses|3"_s}));
     // The known contact keeps its names and takes the rest, an empty field included.
@@ -269,7 +272,8 @@ void tst_RoundTrip::ARestoreShowsTheNewData()
     QCOMPARE(gContacts.Keys(), (std::vector<Long>{4, 5, 6}));
     auto& alerts = Control<Grid>(agency.Main(), u"GridAlerts"_s);
     QCOMPARE(alerts.Rows(), 2);
-    QCOMPARE(FreshDatabase::Rows(u"Select FormName,FormText from FormLetters"_s), QStringList{u"Hello|Dear !<FirstName>!"_s});
+    QCOMPARE(FreshDatabase::Rows(u"Select FormName,FormText from FormLetters"_s),
+             QStringList{u"Hello|Dear !<FirstName>!"_s});
     // The same again at the next start.
     agency.StartAnew();
     QCOMPARE(gContacts.Count(), 3);
@@ -327,7 +331,8 @@ void tst_RoundTrip::TheProgramsOwnFilesAreNoTarget()
 {
     Agency agency(Agency::File::Small);
     const QStringList before = FreshDatabase::WholeFile();
-    for (const auto& [name, number] : {std::pair{u"Data/Contacts.mdb"_s, 70}, std::pair{u"Data/AlertExport.xml"_s, 55}}) {
+    for (const auto& [name, number] :
+         {std::pair{u"Data/Contacts.mdb"_s, 70}, std::pair{u"Data/AlertExport.xml"_s, 55}}) {
         agency.Name(name);
         agency.Person.ExpectReport(QString::number(number));
         ExportData(u"All"_s);
@@ -356,14 +361,16 @@ void tst_RoundTrip::TheSchemaNamesBaseTablesAndTypes()
     QVERIFY(properties.contains("rs:basecolumn='SqFt'>\r\n\t\t\t<s:datatype dt:type='i2' dt:maxLength='2' "
                                 "rs:precision='5' rs:fixedlength='true' rs:maybenull='false'/>"));
     QVERIFY(properties.contains("rs:basecolumn='Baths'>\r\n\t\t\t<s:datatype dt:type='r4'"));
-    QVERIFY(properties.contains("rs:basecolumn='AskingPrice'>\r\n\t\t\t<s:datatype dt:type='number' rs:dbtype='numeric' "
-                                "dt:maxLength='19' rs:scale='4' rs:precision='19' rs:fixedlength='true'/>"));
+    QVERIFY(
+        properties.contains("rs:basecolumn='AskingPrice'>\r\n\t\t\t<s:datatype dt:type='number' rs:dbtype='numeric' "
+                            "dt:maxLength='19' rs:scale='4' rs:precision='19' rs:fixedlength='true'/>"));
     QVERIFY(properties.contains("rs:basecolumn='Notes'>\r\n\t\t\t<s:datatype dt:type='string' "
                                 "dt:maxLength='1073741823' rs:long='true'/>"));
     QVERIFY(properties.contains(" Baths='2.5'"));
     QVERIFY(properties.contains(" AskingPrice='250000.5'"));
     QVERIFY(!properties.contains(" Picture='"));
-    QVERIFY(sections[0].contains("rs:basecolumn='FirstName'>\r\n\t\t\t<s:datatype dt:type='string' dt:maxLength='255'/>"));
+    QVERIFY(
+        sections[0].contains("rs:basecolumn='FirstName'>\r\n\t\t\t<s:datatype dt:type='string' dt:maxLength='255'/>"));
     QVERIFY(sections[5].trimmed().endsWith("</rs:data>\r\n</xml>"));
 }
 
