@@ -109,7 +109,8 @@ QStringList Office::WindowNames()
             u"contact list"_s, u"new contact"_s,  u"contact"_s,
             u"notes"_s,        u"move contact"_s, u"move category"_s,
             u"question"_s,     u"line of text"_s, u"question of notes"_s,
-            u"error"_s};
+            u"error"_s,        u"feedback"_s,     u"feedback comments"_s,
+            u"feedback review"_s};
 }
 
 void Office::Open(const QString& window, const Look& look)
@@ -131,6 +132,17 @@ void Office::Open(const QString& window, const Look& look)
         Click(u"S1"_s);
         Q_EMIT Main().MainMenus().Menu(u"mnuCategory"_s).aboutToShow();
         inForm(u"frmMove"_s, [this] { Trigger(Main(), u"mnuSubMove"_s); });
+    } else if (window.startsWith("feedback"_L1)) {
+        const WhenFormOpens form(u"frmCallHome"_s, [&](Form& shown) {
+            if (window != "feedback"_L1)
+                ClickOn(shown, u"cmdNext"_s);
+            if (window == "feedback review"_L1) {
+                TypeText(shown, u"I like it."_s);
+                ClickOn(shown, u"cmdNext"_s);
+            }
+            look(shown);
+        });
+        Trigger(Main(), u"mnuContact"_s);
     } else if (window == "splash"_L1 || window == "error"_L1) {
         OpenBox(window, look);
     } else {

@@ -99,6 +99,9 @@ void tst_Windows::TheFocusIsWhereThePersonBegins_data()
                                                         {"move contact", "TreeView1"},
                                                         {"move category", "TreeView1"},
                                                         {"line of text", "txtInput"},
+                                                        {"feedback", "txtName"},
+                                                        {"feedback comments", "txtComments"},
+                                                        {"feedback review", "cmdNext"},
                                                         {"question", "Yes"},
                                                         {"question of notes", "Yes"},
                                                         {"error", "OK"}};

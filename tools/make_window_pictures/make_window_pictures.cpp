@@ -12,6 +12,7 @@
 #include "core/Clock.h"
 #include "make_window_pictures/Album.h"
 #include "make_window_pictures/Stage.h"
+#include "make_window_pictures/TransferPictures.h"
 #include "model/Contact.h"
 #include "model/Main.h"
 #include "organise/CategoryTree.h"
@@ -181,6 +182,7 @@ void Run::Full()
     Notes();
     Choosers();
     Boxes();
+    TakeFeedback(m_album, Main());
     Desk();
 }
 
