@@ -88,7 +88,7 @@ frmCallHome::frmCallHome(const QUrl& address, int mostMilliseconds)
     layout->addWidget(m_status);
     layout->addWidget(MakeButtons());
     connect(&m_request, &FeedbackRequest::Answered, this, &frmCallHome::Answer);
-    resize(520, 400);
+    resize(520, 340);
     setMinimumSize(360, 300);
     CenterForm(*this);
     GoTo(WhoPage);
