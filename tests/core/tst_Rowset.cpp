@@ -156,6 +156,11 @@ void tst_Rowset::WhatIsNoRowsetIsRefused_data()
         laughs += "<!ENTITY l" + QByteArray::number(i) + " '" +
                   QByteArray("&l" + QByteArray::number(i - 1) + ';').repeated(10) + "'>";
     QTest::newRow("a billion laughs") << laughs + "]>" + QByteArray(plain).replace("T='x'", "T='&l29;'");
+    QTest::newRow("nested without end") << Rowset(QByteArray("<a>").repeated(100'000));
+    QByteArray values;
+    for (int i = 0; i < 200'000; ++i)
+        values += " a" + QByteArray::number(i) + "=''";
+    QTest::newRow("values without end") << Rowset("<z:row" + values + "/>");
     for (qsizetype length = 0; length < plain.size(); length += 97)
         QTest::addRow("cut off at %d", static_cast<int>(length)) << plain.first(length);
 }

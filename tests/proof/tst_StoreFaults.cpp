@@ -102,6 +102,7 @@ private Q_SLOTS:
     void AFailedSaveIsReportedAndTheNextOneWorks();
     void ASaveWaitsForALockThatGoes();
     void AFileThatIsLockedAtTheStartIsAnErrorAndOpensLater();
+    void ADiskThatFillsUpKeepsWhatSharedACommit();
 };
 
 void tst_StoreFaults::AFailedSaveIsReportedAndTheNextOneWorks_data()
@@ -182,6 +183,41 @@ void tst_StoreFaults::AFileThatIsLockedAtTheStartIsAnErrorAndOpensLater()
     QCOMPARE(other->Run("COMMIT"), QString());
     fresh.StartAnew();
     QCOMPARE(gConn.State(), ObjectState::Open);
+}
+
+/// Writes rows into a file that may grow by `room` bytes until none fits, and gives how many are in the file then.
+qsizetype RowsThatFit(rlim_t room, bool sharing)
+{
+    FreshDatabase fresh;
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        rlimit before{};
+        getrlimit(RLIMIT_FSIZE, &before);
+        const rlimit now{static_cast<rlim_t>(QFileInfo(fresh.DatabaseFile()).size()) + room, before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &now);
+        const Undo undo = AtTheEnd([before] { setrlimit(RLIMIT_FSIZE, &before); });
+        const auto fill = [] {
+            for (int i = 0; i < 3000; ++i)
+                gConn.Execute(u"Insert into Categories (Description) Values ('%1')"_s.arg(QString(5000, u'n')));
+        };
+        const int error = ErrorOf([&] { sharing ? gConn.ShareCommits(fill) : fill(); });
+        if (error != ErrorNumber::EngineFailure)
+            qFatal("the disk did not fill up");
+    }
+    fresh.StartAnew();
+    if (Database(fresh.DatabaseFile()).Value("PRAGMA integrity_check") != "ok"_L1)
+        qFatal("the file is damaged");
+    return FreshDatabase::Rows(u"Select ID from Categories"_s).size();
+}
+
+void tst_StoreFaults::ADiskThatFillsUpKeepsWhatSharedACommit()
+{
+    // Full before the first commit, while the engine writes ahead of it, and between two.
+    for (const rlim_t room : {300'000, 4'000'000, 9'000'000}) {
+        const qsizetype alone = RowsThatFit(room, false);
+        QVERIFY(alone > 30);
+        QCOMPARE(RowsThatFit(room, true), alone);
+    }
 }
 
 QTEST_APPLESS_MAIN(tst_StoreFaults)

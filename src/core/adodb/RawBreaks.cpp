@@ -14,6 +14,7 @@ struct SectionKind
 constexpr std::array sections{SectionKind{"!--", "-->"}, SectionKind{"![CDATA[", "]]>"}, SectionKind{"?", "?>"}};
 
 constexpr qint64 blockSize = 1 << 16;
+constexpr int mostValuesOfATag = 10'000;
 
 } // namespace
 
@@ -25,6 +26,8 @@ RawBreaks::RawBreaks(QIODevice& source) : m_source(source)
 qint64 RawBreaks::readData(char* data, qint64 most)
 {
     while (m_mended.isEmpty()) {
+        if (m_place == Place::Over)
+            return 0;
         const QByteArray block = m_source.read(blockSize);
         if (block.isEmpty())
             return m_source.atEnd() ? 0 : -1;
@@ -56,6 +59,7 @@ void RawBreaks::Step(char sign)
         if (sign == '<') {
             m_place = Place::Markup;
             m_begun.clear();
+            m_values = 0;
         }
         break;
     case Place::Markup: {
@@ -77,7 +81,7 @@ void RawBreaks::Step(char sign)
         if (sign == '>')
             m_place = Place::Text;
         if (sign == '"' || sign == '\'') {
-            m_place = Place::Quoted;
+            m_place = ++m_values > mostValuesOfATag ? Place::Over : Place::Quoted;
             m_quote = sign;
         }
         break;
@@ -96,6 +100,8 @@ void RawBreaks::Step(char sign)
         if (m_last == m_end)
             m_place = Place::Text;
         break;
+    case Place::Over:
+        return;
     }
     m_mended += sign;
 }

@@ -25,7 +25,8 @@ private:
         Markup, ///< behind "<", while it may still become a comment or another section
         Tag,
         Quoted,
-        Section ///< a comment, CDATA or processing instruction, up to its end
+        Section, ///< a comment, CDATA or processing instruction, up to its end
+        Over
     };
 
     void Mend(const QByteArray& block);
@@ -34,6 +35,7 @@ private:
     QIODevice& m_source;
     Place m_place = Place::Front;
     char m_quote = 0;
+    int m_values = 0; ///< of the tag so far
     QByteArray m_begun;  ///< of Markup, what was read so far
     QByteArray m_last;   ///< of Section, its last signs
     QByteArray m_end;    ///< of Section, how it ends

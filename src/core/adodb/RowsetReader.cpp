@@ -14,6 +14,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// No rowset has elements inside elements for long; a parser remembers each that is open.
+constexpr int deepest = 100;
+
 using Row = std::vector<std::optional<QString>>;
 
 [[noreturn]] void RaiseNoRowset(const QString& why)
@@ -46,7 +49,7 @@ public:
             else if (m_xml.name() == "data"_L1 && IsOf(RowsetForm::RowsetSpace))
                 ReadData();
             else
-                m_xml.skipCurrentElement();
+                Skip();
         }
         // What stands behind the root's end has to be XML too.
         while (!m_xml.atEnd())
@@ -85,19 +88,31 @@ private:
         return false;
     }
 
+    /// Goes to the end of the current element.
+    void Skip()
+    {
+        for (int depth = 1; depth > 0 && !m_xml.atEnd();) {
+            const QXmlStreamReader::TokenType token = m_xml.readNext();
+            if (token == QXmlStreamReader::StartElement && ++depth > deepest)
+                RaiseNoRowset(u"Line %1: Its elements are nested too deeply."_s.arg(m_xml.lineNumber()));
+            if (token == QXmlStreamReader::EndElement)
+                --depth;
+        }
+    }
+
     void ReadSchema()
     {
         while (NextElement()) {
             const bool isRow = m_xml.name() == "ElementType"_L1 && m_xml.attributes().value("name"_L1) == "row"_L1;
             if (!isRow) {
-                m_xml.skipCurrentElement();
+                Skip();
                 continue;
             }
             while (NextElement()) {
                 if (m_xml.name() == "AttributeType"_L1)
                     ReadColumn();
                 else
-                    m_xml.skipCurrentElement();
+                    Skip();
             }
         }
     }
@@ -121,7 +136,7 @@ private:
         while (NextElement()) {
             if (m_xml.name() == "datatype"_L1)
                 column.Type = typeOf(m_xml.attributes());
-            m_xml.skipCurrentElement();
+            Skip();
         }
         if (!column.XmlName.isEmpty() && m_rows == nullptr)
             m_columns.push_back(std::move(column));
@@ -155,7 +170,7 @@ private:
             } else if (m_xml.name() == "update"_L1) {
                 ReadUpdate();
             } else {
-                m_xml.skipCurrentElement();
+                Skip();
             }
         }
     }
@@ -194,7 +209,7 @@ private:
             if (const auto place = m_place.constFind(name.toString()); place != m_place.constEnd())
                 row[*place].reset();
         }
-        m_xml.skipCurrentElement();
+        Skip();
     }
 
     QString ValueOf(const Column& column, const QString& value) const
