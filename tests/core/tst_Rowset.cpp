@@ -50,6 +50,19 @@ QStringList Read(QByteArray document)
     return lines;
 }
 
+/// What is saved of a table.
+QByteArray Saved(const FreshDatabase& database, const QString& table)
+{
+    Recordset rows;
+    rows.LockType = LockType::Pessimistic;
+    rows.Open(u"Select * from "_s + table, gConn);
+    QFile file(database.Folder() + u'/' + table + u".xml"_s);
+    rows.Save(file.fileName());
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("nothing was saved");
+    return file.readAll();
+}
+
 } // namespace
 
 /// The published XML form of a rowset.
@@ -254,14 +267,7 @@ void tst_Rowset::EveryTextComesBack()
     const FreshDatabase database;
     FreshDatabase::Execute(u"Insert into FormLetters (FormName,FormText) values ('"_s + FixQuotes(text) +
                            u"','end')"_s);
-    Recordset rows;
-    rows.LockType = LockType::Pessimistic;
-    rows.Open(u"Select * from FormLetters"_s, gConn);
-    const QString file = database.Folder() + u"/letters.xml"_s;
-    rows.Save(file);
-    QFile saved(file);
-    QVERIFY(saved.open(QIODevice::ReadOnly));
-    const QByteArray xml = saved.readAll();
+    const QByteArray xml = Saved(database, u"FormLetters"_s);
     QVERIFY(xml.endsWith("</rs:data>\r\n</xml>"));
     QCOMPARE(Read(xml), QStringList{u"1|"_s + back + u"|end"_s});
     // A line of the file never ends inside a value.
@@ -276,14 +282,7 @@ void tst_Rowset::NumbersAreWrittenAsPublished()
     FreshDatabase::Execute(
         u"Insert into PropDetail (State,Rooms,Baths,MaintFee,AssocFee,RentalAmount,AskingPrice,SoldPrice,"
         "SqFt) Values (9,1.25,1.5E+10,-7.89,0,1234.5600,0.0001,99999999.99,-32768)"_s);
-    Recordset rows;
-    rows.LockType = LockType::Pessimistic;
-    rows.Open(u"Select * from PropDetail"_s, gConn);
-    const QString file = database.Folder() + u"/numbers.xml"_s;
-    rows.Save(file);
-    QFile saved(file);
-    QVERIFY(saved.open(QIODevice::ReadOnly));
-    const QByteArray xml = saved.readAll();
+    const QByteArray xml = Saved(database, u"PropDetail"_s);
     for (const char* value :
          {" ID='1'", " State='9'", " Rooms='1.25'", " Baths='1.5E+10'", " MaintFee='-7.89'", " AssocFee='0'",
           " RentalAmount='1234.56'", " AskingPrice='0.0001'", " SoldPrice='99999999.99'", " SqFt='-32768'"})
@@ -316,13 +315,7 @@ void tst_Rowset::AWideTextWidensItsColumn()
 {
     const FreshDatabase database;
     FreshDatabase::Execute(u"Insert into Categories (Description) Values ('"_s + QString(300, u'x') + u"')"_s);
-    Recordset rows;
-    rows.LockType = LockType::Pessimistic;
-    rows.Open(u"Select * from Categories"_s, gConn);
-    rows.Save(database.Folder() + u"/wide.xml"_s);
-    QFile saved(database.Folder() + u"/wide.xml"_s);
-    QVERIFY(saved.open(QIODevice::ReadOnly));
-    QVERIFY(saved.readAll().contains("dt:type='string' dt:maxLength='300'"));
+    QVERIFY(Saved(database, u"Categories"_s).contains("dt:type='string' dt:maxLength='300'"));
 }
 
 QTEST_APPLESS_MAIN(tst_Rowset)

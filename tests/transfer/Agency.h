@@ -24,6 +24,17 @@
 #include <QProcess>
 #include <QTest>
 
+/// The sections of a transfer file, in their order.
+enum Section
+{
+    Contacts,
+    AlertRows,
+    Properties,
+    CategoryRows,
+    SubCategories,
+    Letters
+};
+
 /// The started program on a file of its own, with a person who names files.
 class Agency
 {

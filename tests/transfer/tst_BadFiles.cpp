@@ -7,16 +7,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum Section
-{
-    Contacts,
-    AlertRows,
-    Properties,
-    CategoryRows,
-    SubCategories,
-    Letters
-};
-
 /// A backup of the small agency, made once.
 const QList<QByteArray>& Backup()
 {

@@ -38,16 +38,6 @@ QHash<QString, qsizetype> Places(const Rows& rows)
     return places;
 }
 
-enum Section
-{
-    Contacts,
-    AlertRows,
-    Properties,
-    CategoryRows,
-    SubCategories,
-    Letters
-};
-
 /// What a column becomes: of most the same, with Null as an empty text.
 QString Expected(Section section, const QString& column, const QString& value)
 {
