@@ -212,8 +212,8 @@ qsizetype RowsThatFit(rlim_t room, bool sharing)
 
 void tst_StoreFaults::ADiskThatFillsUpKeepsWhatSharedACommit()
 {
-    // Full before the first commit, while the engine writes ahead of it, and between two.
-    for (const rlim_t room : {300'000, 4'000'000, 9'000'000}) {
+    // Full at the first commit, and while the engine writes ahead of it.
+    for (const rlim_t room : {300'000, 4'000'000}) {
         const qsizetype alone = RowsThatFit(room, false);
         QVERIFY(alone > 20);
         QCOMPARE(RowsThatFit(room, true), alone);
