@@ -4,6 +4,7 @@
 #include "core/Dates.h"
 #include "core/Format.h"
 #include "core/Trap.h"
+#include "core/User.h"
 #include "ui/widgets/Forms.h"
 #include "ui/widgets/HoverButtonArray.h"
 
@@ -112,5 +113,6 @@ QString AskForDate(const QString& caption, const QDate& value)
 {
     frmCalendar form(caption, value);
     form.ShowModal(Forms::Active());
-    return form.Reply();
+    gReturnValue = form.Reply();
+    return gReturnValue;
 }
