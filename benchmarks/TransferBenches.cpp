@@ -3,6 +3,7 @@
 #include "Benches.h"
 #include "core/adodb/Connection.h"
 #include "core/User.h"
+#include "Figures.h"
 #include "model/Main.h"
 #include "organise/CategoryTree.h"
 #include "Program.h"
@@ -133,6 +134,8 @@ void Register(const char* name, int contacts, void (*measure)(benchmark::State&)
 
 void RegisterTransfer(int contacts)
 {
+    AddFigure({"Backup", "Backup", 2});
+    AddFigure({"Restore", "Restore", 2});
     Register("Backup/program", contacts, Backup);
     Register("Backup/yardstick", contacts, BareBackup);
     Register("Restore/program", contacts, Restore);
