@@ -3,13 +3,20 @@
 #include "core/RunTimeError.h"
 
 #include <cerrno>
+#include <fcntl.h>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <unistd.h>
 
 namespace {
 
 [[noreturn]] void RaiseFault(const QFileDevice* file)
 {
+    // Neither has an error of its own in the toolkit: no more room for this person, or for a file of this size.
+    for (const int full : {EDQUOT, EFBIG}) {
+        if (file != nullptr && file->errorString() == qt_error_string(full))
+            throw RunTimeError(ErrorNumber::DiskFull);
+    }
     switch (file != nullptr ? file->error() : QFileDevice::WriteError) {
     case QFileDevice::ResourceError:
         throw RunTimeError(ErrorNumber::DiskFull);
@@ -29,7 +36,17 @@ namespace {
         throw RunTimeError(ErrorNumber::FileNotFound);
     if (info.isDir())
         throw RunTimeError(ErrorNumber::PathFileAccess);
+    if (mode.testFlag(QIODevice::NewOnly) && (info.exists() || info.isSymLink()))
+        throw RunTimeError(ErrorNumber::FileAlreadyExists);
     RaiseFault(&file);
+}
+
+/// Waits until a file or a folder is on the disk. Not every file system can say so; those take what they got.
+void Sync(int handle)
+{
+    if (fsync(handle) == 0 || errno == EINVAL || errno == ENOTSUP || errno == EROFS)
+        return;
+    throw RunTimeError(errno == ENOSPC || errno == EDQUOT ? ErrorNumber::DiskFull : ErrorNumber::PathFileAccess);
 }
 
 } // namespace
@@ -58,15 +75,23 @@ void SyncFile(const QString& name)
 {
     QFile file(name);
     OpenFile(file, QIODevice::ReadWrite);
-    if (fsync(file.handle()) != 0)
-        throw RunTimeError(errno == ENOSPC ? ErrorNumber::DiskFull : ErrorNumber::PathFileAccess);
+    Sync(file.handle());
+    // The name stands in the folder, which a person may be allowed to write but not to read.
+    const int folder = open(QFile::encodeName(QFileInfo(name).path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0)
+        return;
+    const auto closed = qScopeGuard([folder] { close(folder); });
+    Sync(folder);
 }
 
 void DeleteFile(const QString& name)
 {
-    if (!QFileInfo(name).isFile())
+    const QFileInfo info(name);
+    if (!info.isFile() && !info.isSymLink())
         throw RunTimeError(ErrorNumber::FileNotFound);
-    if (!QFile::remove(name))
+    // The system asks the folder only; who protected a file meant it.
+    const bool isProtected = info.isFile() && !info.permission(QFileDevice::WriteOwner);
+    if (isProtected || !QFile::remove(name))
         throw RunTimeError(ErrorNumber::PermissionDenied);
 }
 
@@ -75,4 +100,12 @@ void CopyBytes(QIODevice& from, QIODevice& to)
     constexpr qint64 block = 1 << 20;
     for (QByteArray bytes = from.read(block); !bytes.isEmpty(); bytes = from.read(block))
         WriteBytes(to, bytes);
+    RequireRead(from);
+}
+
+void RequireRead(const QIODevice& device)
+{
+    const auto* file = qobject_cast<const QFileDevice*>(&device);
+    if (file != nullptr && file->error() != QFileDevice::NoError)
+        throw RunTimeError(ErrorNumber::PathFileAccess);
 }

@@ -1,5 +1,6 @@
 #include "transfer/TransferFile.h"
 
+#include "core/Files.h"
 #include "core/RunTimeError.h"
 #include "model/Main.h"
 
@@ -51,6 +52,7 @@ bool IsDatabaseBackup(QIODevice& file)
         if (seen.contains(word))
             return true;
     }
+    RequireRead(file);
     if (isEmpty)
         throw RunTimeError(ErrorNumber::InputPastEnd);
     return false;

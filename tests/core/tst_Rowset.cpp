@@ -3,6 +3,7 @@
 #include "core/RunTimeError.h"
 #include "support/FreshDatabase.h"
 
+#include <limits>
 #include <QBuffer>
 #include <QTest>
 
@@ -71,6 +72,7 @@ class tst_Rowset : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { qputenv("TZ", "America/Sao_Paulo"); }
     void WhatOtherWritersDoIsTaken_data();
     void WhatOtherWritersDoIsTaken();
     void WhatIsNoRowsetIsRefused_data();
@@ -80,6 +82,7 @@ private Q_SLOTS:
     void EveryTextComesBack_data();
     void EveryTextComesBack();
     void NumbersAreWrittenAsPublished();
+    void TheGreatestNumbersComeBack();
     void AFileIsNeverWrittenOver();
     void AWideTextWidensItsColumn();
 };
@@ -162,6 +165,9 @@ void tst_Rowset::WhatIsNoRowsetIsRefused_data()
     QTest::newRow("an unknown entity") << Rowset("<z:row T='&nbsp;'/>");
     QTest::newRow("a control") << Rowset("<z:row T='a\x01'/>");
     QTest::newRow("a reference to a control") << Rowset("<z:row T='&#x1;'/>");
+    QTest::newRow("a reference to half a character") << Rowset("<z:row T='&#xD800;'/>");
+    QTest::newRow("half a character") << Rowset("<z:row T='a\xED\xA0\x80'/>");
+    QTest::newRow("U+FFFF") << Rowset("<z:row T='a\xEF\xBF\xBF'/>");
     QTest::newRow("a prefix of nothing") << Rowset("<q:row ID='1'/>");
     QTest::newRow("a document type") << "<!DOCTYPE xml [<!ENTITY a 'b'>]>" + plain;
     QByteArray laughs = "<!DOCTYPE xml [<!ENTITY l0 'lol'>";
@@ -222,6 +228,10 @@ void tst_Rowset::ValuesAreHeldAgainstTheirType_data()
     row("dateTime", "2026-01-05", u"1/5/2026"_s);
     row("dateTime", "2026-02-30T00:00:00", {});
     row("dateTime", "yesterday", {});
+    row("dateTime", "2026-01-05T13:04:05+05:30", u"1/5/2026 1:04:05 PM"_s);
+    row("dateTime", "2026-01-05T13:04:05 soon", {});
+    // The clocks of Sao Paulo, which this runs by, had no such hour.
+    row("dateTime", "2018-11-04T00:00:00", u"11/4/2018"_s);
     row("time", "14:30:00", u"2:30:00 PM"_s);
     row("uuid", "whatever", u"whatever"_s);
 }
@@ -290,6 +300,22 @@ void tst_Rowset::NumbersAreWrittenAsPublished()
     QVERIFY(!xml.contains(" MLS='")); // Null
 }
 
+void tst_Rowset::TheGreatestNumbersComeBack()
+{
+    const FreshDatabase database;
+    FreshDatabase::Execute(u"Insert into PropDetail (SqFt,Rooms,Baths,AskingPrice,SoldPrice) Values "
+                           "(1,3.4028234663852886E+38,-3.4029E+38,922337203685477.5807,-922337203685477.5808)"_s);
+    QByteArray xml = Saved(database, u"PropDetail"_s);
+    QBuffer buffer(&xml);
+    buffer.open(QIODevice::ReadOnly);
+    Recordset rows;
+    rows.Open(buffer);
+    QCOMPARE(rows.Fields("Rooms"_L1).Get().SingleOrZero(), std::numeric_limits<Single>::max());
+    QCOMPARE(rows.Fields("Baths"_L1).Get().SingleOrZero(), -std::numeric_limits<Single>::max());
+    QCOMPARE(rows.Fields("AskingPrice"_L1).Get().Text(), u"922337203685477.5807"_s);
+    QCOMPARE(rows.Fields("SoldPrice"_L1).Get().Text(), u"-922337203685477.5808"_s);
+}
+
 void tst_Rowset::AFileIsNeverWrittenOver()
 {
     const FreshDatabase database;
@@ -309,13 +335,19 @@ void tst_Rowset::AFileIsNeverWrittenOver()
     QCOMPARE(errorOfSave(file), ErrorNumber::FileAlreadyExists);
     QCOMPARE(errorOfSave(database.Folder() + u"/none/once.xml"_s), ErrorNumber::PathNotFound);
     QCOMPARE(errorOfSave(u"/dev/full"_s), ErrorNumber::FileAlreadyExists);
+    QCOMPARE(errorOfSave(database.Folder()), ErrorNumber::PathFileAccess);
+    const QString link = database.Folder() + u"/link.xml"_s;
+    QVERIFY(QFile::link(database.Folder() + u"/gone.xml"_s, link));
+    QCOMPARE(errorOfSave(link), ErrorNumber::FileAlreadyExists);
 }
 
 void tst_Rowset::AWideTextWidensItsColumn()
 {
     const FreshDatabase database;
     FreshDatabase::Execute(u"Insert into Categories (Description) Values ('"_s + QString(300, u'x') + u"')"_s);
+    FreshDatabase::Execute(u"Insert into SubCategories (Description) Values ('"_s + QString(200, u'Ж') + u"')"_s);
     QVERIFY(Saved(database, u"Categories"_s).contains("dt:type='string' dt:maxLength='300'"));
+    QVERIFY(Saved(database, u"SubCategories"_s).contains("dt:type='string' dt:maxLength='255'"));
 }
 
 QTEST_APPLESS_MAIN(tst_Rowset)

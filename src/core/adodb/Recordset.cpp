@@ -8,8 +8,6 @@
 #include "core/Files.h"
 #include "core/RunTimeError.h"
 
-#include <QFileInfo>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -78,8 +76,6 @@ void Recordset::Save(const QString& fileName, bool secret) const
     RequireOpen();
     if (m_table.isEmpty())
         throw RunTimeError(3219);
-    if (QFileInfo::exists(fileName))
-        throw RunTimeError(ErrorNumber::FileAlreadyExists);
     std::vector<RowsetColumn> columns;
     for (int i = 0; i < FieldCount(); ++i) {
         const Engine::Declaration declared = m_connection->OpenEngine().Declared(m_table, FieldName(i));
@@ -100,8 +96,10 @@ void Recordset::Fetch()
     const TranslatedStatement translated = Translate(m_statement);
     m_table = LockType == ::LockType::ReadOnly ? QString() : translated.UpdatableTable;
     const QString text = m_table.isEmpty() ? translated.Text : WithRowNumber(translated.Text);
-    const auto running = engine.Prepare(text, translated.Literals, translated.Reusable);
-    m_rows = std::make_unique<RowPack>(running->Handle(), running->Columns(), [&running] { return running->Step(); });
+    m_rows = m_connection->Counted([&] {
+        const auto running = engine.Prepare(text, translated.Literals, translated.Reusable);
+        return std::make_unique<RowPack>(running->Handle(), running->Columns(), [&running] { return running->Step(); });
+    });
     m_row = 0;
     m_pending.clear();
 }
@@ -166,8 +164,7 @@ void Recordset::Find(const QString& criterion)
         wanted = wanted.mid(1, wanted.size() - 2).replace("''"_L1, "'"_L1);
     m_pending.clear();
     const auto matches = [&] {
-        return !m_rows->IsDeleted(m_row) &&
-               m_rows->At(m_row, column).Text().compare(wanted, Qt::CaseInsensitive) == 0;
+        return !m_rows->IsDeleted(m_row) && m_rows->At(m_row, column).Text().compare(wanted, Qt::CaseInsensitive) == 0;
     };
     while (m_row < m_rows->Rows() && !matches())
         ++m_row;

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <limits>
 #include <sqlcipher/sqlite3.h>
 
 using namespace Qt::StringLiterals;
@@ -188,5 +189,12 @@ bool RowPack::IsDeleted(qsizetype row) const
 
 Currency RoundedCurrency(double number)
 {
-    return Currency::FromScaled(std::llround(number * static_cast<double>(Currency::Scale)));
+    // The greatest amounts are no numbers that a double can hold: the next one is beyond what fits.
+    constexpr double bound = 0x1p63;
+    const double scaled = number * static_cast<double>(Currency::Scale);
+    if (scaled >= bound)
+        return Currency::FromScaled(std::numeric_limits<qint64>::max());
+    if (scaled <= -bound)
+        return Currency::FromScaled(std::numeric_limits<qint64>::min());
+    return Currency::FromScaled(std::llround(scaled));
 }

@@ -8,6 +8,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -63,11 +64,14 @@ QString DateText(const QString& value)
     const QTime time = QTime::fromString(value, Qt::ISODateWithMs);
     if (time.isValid() && !value.contains(u'-'))
         return CStr(Date(time.msecsSinceStartOfDay() / 86'400'000.0));
-    const QDateTime moment = QDateTime::fromString(value, Qt::ISODateWithMs);
+    // The time is the one on the clock of who wrote it. A clock here may skip it, so no zone has a say.
+    constexpr qsizetype dateLength = 10;
+    static const QRegularExpression zone(u"(Z|[+-]\\d\\d(:?\\d\\d)?)$"_s);
+    const QString written = value.size() > dateLength ? QString(value).remove(zone) : value + u"T00:00:00"_s;
+    const QDateTime moment = QDateTime::fromString(written + u'Z', Qt::ISODateWithMs);
     if (!moment.isValid() || moment.date().year() < 100 || moment.date().year() > 9999)
         throw RunTimeError(ErrorNumber::WrongType);
-    // The time is the one on the clock of who wrote it.
-    return CStr(ToDate(QDateTime(moment.date(), moment.time())));
+    return CStr(ToDate(moment));
 }
 
 } // namespace

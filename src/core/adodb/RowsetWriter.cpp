@@ -7,6 +7,8 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
+#include <limits>
 
 namespace {
 
@@ -83,6 +85,17 @@ qsizetype LengthOfRefused(const char* text, qsizetype left)
     return length;
 }
 
+/// How many UTF-16 units a stored text has.
+qsizetype SignsIn(QByteArrayView text)
+{
+    qsizetype signs = 0;
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        signs += (byte & 0xC0) == 0x80 ? 0 : byte >= 0xF0 ? 2 : 1;
+    }
+    return signs;
+}
+
 template <typename Number>
 void AppendNumber(QByteArray& xml, Number number)
 {
@@ -93,6 +106,11 @@ void AppendNumber(QByteArray& xml, Number number)
 
 void AppendReal(QByteArray& xml, Single number)
 {
+    // The shortest text of the greatest number is one that reads as more than it; so it gets one of its own.
+    if (std::abs(number) >= std::numeric_limits<Single>::max()) {
+        xml += number < 0 ? "-3.4028234E+38" : "3.4028234E+38";
+        return;
+    }
     const qsizetype start = xml.size();
     AppendNumber(xml, number == 0 ? 0 : number); // never "-0"
     const qsizetype exponent = xml.indexOf('e', start);
@@ -197,13 +215,16 @@ private:
         m_xml += "\t\t<s:extends type='rs:rowbase'/>\r\n\t</s:ElementType>\r\n</s:Schema>\r\n";
     }
 
-    /// A text has never more characters than bytes.
     [[nodiscard]] std::vector<qsizetype> TextWidths() const
     {
         std::vector<qsizetype> widths(m_columns.size(), leastTextWidth);
         for (qsizetype row = 0; row < m_rows.Rows(); ++row) {
-            for (size_t i = 0; i < m_columns.size(); ++i)
-                widths[i] = std::max(widths[i], m_rows.CellAt(row, static_cast<int>(i)).Length);
+            for (size_t i = 0; i < m_columns.size(); ++i) {
+                // A text has never more signs than bytes.
+                const RowPack::Cell cell = m_rows.CellAt(row, static_cast<int>(i));
+                if (cell.Length > widths[i])
+                    widths[i] = std::max(widths[i], SignsIn({cell.Text, cell.Length}));
+            }
         }
         return widths;
     }
