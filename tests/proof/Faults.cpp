@@ -1,9 +1,9 @@
 #include "proof/Faults.h"
 
-#include <csignal>
+#include "support/FullDisk.h"
+
 #include <QFileInfo>
 #include <QTest>
-#include <sys/resource.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -40,17 +40,6 @@ Undo ReadOnly(const QString& path)
     return AtTheEnd([=] { QFile::setPermissions(path, before); });
 }
 
-/// No file of this process grows beyond the size that the database has now.
-Undo FullDisk(const FreshDatabase& fresh)
-{
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit now{static_cast<rlim_t>(QFileInfo(fresh.DatabaseFile()).size()), before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &now);
-    return AtTheEnd([before] { setrlimit(RLIMIT_FSIZE, &before); });
-}
-
 } // namespace
 
 std::shared_ptr<Database> LockedBy(const FreshDatabase& fresh, const QByteArray& transaction)
@@ -75,7 +64,10 @@ void AddFaults()
         << Fault{true, [](const FreshDatabase& fresh) {
                      return QList{ReadOnly(fresh.DatabaseFile()), WithoutPrivileges(fresh)};
                  }};
-    QTest::newRow("a full disk") << Fault{false, [](const FreshDatabase& fresh) { return QList{FullDisk(fresh)}; }};
+    QTest::newRow("a full disk") << Fault{false, [](const FreshDatabase& fresh) {
+                                              return QList<Undo>{
+                                                  std::make_shared<FullDisk>(QFileInfo(fresh.DatabaseFile()).size())};
+                                          }};
     QTest::newRow("another program writes")
         << Fault{false, [](const FreshDatabase& fresh) { return QList<Undo>{LockedBy(fresh, "BEGIN IMMEDIATE")}; }};
     QTest::newRow("another program reads")

@@ -3,8 +3,10 @@
 #include "model/Contact.h"
 #include "proof/Faults.h"
 #include "support/FreshDatabase.h"
+#include "support/FullDisk.h"
 #include "support/ScriptedUser.h"
 
+#include <QFileInfo>
 #include <QTest>
 #include <thread>
 
@@ -109,12 +111,7 @@ qsizetype RowsThatFit(rlim_t room, bool sharing)
 {
     FreshDatabase fresh;
     {
-        std::signal(SIGXFSZ, SIG_IGN);
-        rlimit before{};
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit now{static_cast<rlim_t>(QFileInfo(fresh.DatabaseFile()).size()) + room, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &now);
-        const Undo undo = AtTheEnd([before] { setrlimit(RLIMIT_FSIZE, &before); });
+        const FullDisk disk(static_cast<rlim_t>(QFileInfo(fresh.DatabaseFile()).size()) + room);
         const auto fill = [] {
             for (int i = 0; i < 3000; ++i)
                 gConn.Execute(u"Insert into Categories (Description) Values ('%1')"_s.arg(QString(5000, u'n')));
