@@ -30,12 +30,8 @@ int Rank(const Alert& alert, Date today)
 
 } // namespace
 
-std::shared_ptr<Alert> Alerts::Add(const QString& key, Long contactID, Date alertDate, const QString& alertNote,
-                                   const QString& collectionKey)
+std::shared_ptr<Alert> Alerts::Add(const QString& key, Long contactID, Date alertDate, const QString& alertNote)
 {
-    const QString folded = collectionKey.toCaseFolded();
-    if (m_keys.contains(folded))
-        throw RunTimeError(ErrorNumber::KeyAlreadyThere);
     auto alert = std::make_shared<Alert>();
     alert->Key = key;
     alert->ContactID = contactID;
@@ -43,29 +39,15 @@ std::shared_ptr<Alert> Alerts::Add(const QString& key, Long contactID, Date aler
     alert->AlertNote = alertNote;
     m_list.push_back(alert);
     m_byContact[contactID].push_back(alert.get());
-    if (!folded.isEmpty()) {
-        m_keys.insert(folded);
-        m_keyOf.emplace(alert.get(), folded);
-    }
     return alert;
 }
 
 void Alerts::Replace(qsizetype position, std::shared_ptr<Alert> alert)
 {
     const Alert& old = *Item(position);
-    ForgetKey(old);
     std::erase(m_byContact[old.ContactID], &old);
     m_byContact[alert->ContactID].push_back(alert.get());
     m_list[static_cast<size_t>(position - 1)] = std::move(alert);
-}
-
-void Alerts::ForgetKey(const Alert& alert)
-{
-    const auto found = m_keyOf.find(&alert);
-    if (found == m_keyOf.end())
-        return;
-    m_keys.remove(found->second);
-    m_keyOf.erase(found);
 }
 
 const std::shared_ptr<Alert>& Alerts::Item(qsizetype position) const
@@ -78,7 +60,6 @@ const std::shared_ptr<Alert>& Alerts::Item(qsizetype position) const
 void Alerts::Remove(qsizetype position)
 {
     const Alert& alert = *Item(position);
-    ForgetKey(alert);
     std::erase(m_byContact[alert.ContactID], &alert);
     m_list.erase(m_list.begin() + (position - 1));
 }
@@ -87,18 +68,11 @@ void Alerts::RemoveIf(const std::function<bool(const Alert&)>& unwanted)
 {
     for (auto& [contactID, alerts] : m_byContact)
         std::erase_if(alerts, [&](const Alert* alert) { return unwanted(*alert); });
-    std::erase_if(m_list, [&](const std::shared_ptr<Alert>& alert) {
-        const bool goes = unwanted(*alert);
-        if (goes)
-            ForgetKey(*alert);
-        return goes;
-    });
+    std::erase_if(m_list, [&](const std::shared_ptr<Alert>& alert) { return unwanted(*alert); });
 }
 
 void Alerts::RemoveAll()
 {
-    m_keyOf.clear();
-    m_keys.clear();
     m_byContact.clear();
     m_list.clear();
 }

@@ -4,7 +4,6 @@
 
 #include <functional>
 #include <memory>
-#include <QSet>
 #include <unordered_map>
 #include <vector>
 
@@ -14,10 +13,8 @@ class Alerts
 public:
     using List = std::vector<std::shared_ptr<Alert>>;
 
-    /// Adds an alert at the end and gives it. `collectionKey`, where it is not empty, must be new, without regard to case:
-    /// raises 457 otherwise.
-    std::shared_ptr<Alert> Add(const QString& key, Long contactID, Date alertDate, const QString& alertNote,
-                               const QString& collectionKey = {});
+    /// Adds an alert at the end and gives it. Several may bear one key.
+    std::shared_ptr<Alert> Add(const QString& key, Long contactID, Date alertDate, const QString& alertNote);
     /// Puts an alert in the place of the one at a position. Raises 9 outside of 1 to Count.
     void Replace(qsizetype position, std::shared_ptr<Alert> alert);
 
@@ -40,12 +37,8 @@ public:
     [[nodiscard]] List::const_iterator end() const { return m_list.end(); }
 
 private:
-    void ForgetKey(const Alert& alert);
-
     List m_list;
     std::unordered_map<Long, std::vector<Alert*>> m_byContact;
-    std::unordered_map<const Alert*, QString> m_keyOf; ///< the collection keys, case-folded
-    QSet<QString> m_keys;
 };
 
 /// The first position in gAlerts whose key is "A" and this ID; 0 where there is none.
