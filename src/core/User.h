@@ -25,8 +25,8 @@ enum class Answer
     No
 };
 
-/// How code on any floor speaks to the person. The windows floor implements it with real boxes; a test installs a script
-/// that records what was said and answers.
+/// How code on any floor speaks to the person. The windows floor implements it with real boxes; a test installs a
+/// script that records what was said and answers.
 class User
 {
 public:
@@ -45,6 +45,8 @@ public:
 
     /// Shows the hourglass, or takes it away.
     virtual void HourGlass(bool on) = 0;
+    /// Takes the hourglass away, however often it was shown.
+    virtual void NoHourGlass() {}
 
     /// The user interface of this process; before one is installed, a silent one that answers No and Cancel.
     [[nodiscard]] static User& Current();

@@ -128,8 +128,8 @@ QString ChosenFile(const Words& words)
     dialog.FileName = words.FileName;
     dialog.ShowSave(Forms::Active());
     RefuseOwnFile(dialog.FileName, TemporaryNames());
-    if (QFileInfo::exists(dialog.FileName) && !DeleteAfterAsking(dialog.FileName, u"Do you want me to overwrite it?"_s,
-                                                                 dialog.FileTitle() + u" Already Exists"_s))
+    if (QFileInfo(dialog.FileName).isFile() && !DeleteAfterAsking(dialog.FileName, u"Do you want me to overwrite it?"_s,
+                                                                  dialog.FileTitle() + u" Already Exists"_s))
         return {};
     return dialog.FileName;
 }

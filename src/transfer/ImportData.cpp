@@ -120,7 +120,7 @@ void Import(bool restore)
         DeleteFile(file(5));
     RefreshScreen();
     ShoWait(u"Ready"_s);
-    User::Current().HourGlass(false);
+    User::Current().NoHourGlass(); // one that a run which failed has left goes with it
     if (restore)
         Inform(u"Database Restored"_s, u"I have successfully restored your database."_s);
     else

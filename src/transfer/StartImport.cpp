@@ -46,12 +46,14 @@ public:
     static void TakeLetter(Recordset& row);
 
 private:
-    void AddContact(const std::shared_ptr<Contact>& contact);
+    /// False where the contact has no ID, which has been reported: nothing of the file can hang on it.
+    [[nodiscard]] bool AddContact(const std::shared_ptr<Contact>& contact);
     [[nodiscard]] qsizetype LocateAlert(Long id) const;
 
     Map m_categories;
     Map m_subCategories;
     Map m_contacts;
+    QSet<Long> m_notAdded;               ///< the file's IDs of the contacts that were left out
     std::optional<ContactNames> m_names; ///< made when the first contact comes
     /// The IDs of the alerts that have one: those made earlier in this run of the program. The import adds none.
     QSet<Long> m_alertIDs = [] {
@@ -112,14 +114,19 @@ void ImportRun::TakeContact(Recordset& row)
         contact->LastName = last;
         contact->subCategoryID = subCategory;
         contact->CategoryID = Mapped(m_categories, row, "CategoryID"_L1);
-        AddContact(contact);
+        if (!AddContact(contact)) {
+            m_notAdded.insert(FileID(row));
+            return;
+        }
     }
     m_contacts.Add(FileID(row), contact->RecID);
 }
 
-void ImportRun::AddContact(const std::shared_ptr<Contact>& contact)
+bool ImportRun::AddContact(const std::shared_ptr<Contact>& contact)
 {
     contact->RecID = contact->AddToDB(contact->subCategoryID);
+    if (contact->RecID == 0)
+        return false;
     gContacts.Add(contact->RecID, contact);
     m_names->Add(contact->RecID, *contact);
     Category& category = *CategoryAt(contact->CategoryID);
@@ -127,6 +134,7 @@ void ImportRun::AddContact(const std::shared_ptr<Contact>& contact)
     // A contact whose subcategory the file lacks lies in none.
     if (const qsizetype position = LocateSub(contact->subCategoryID, contact->CategoryID); position > 0)
         ++category.Sub(position)->ContactCount;
+    return true;
 }
 
 qsizetype ImportRun::LocateAlert(Long id) const
@@ -136,6 +144,8 @@ qsizetype ImportRun::LocateAlert(Long id) const
 
 void ImportRun::TakeAlert(Recordset& row)
 {
+    if (m_notAdded.contains(row.Fields("ContactID"_L1).Get().LongOrZero()))
+        return;
     const Long contactID = Mapped(m_contacts, row, "ContactID"_L1);
     if (!gContacts.Exists(contactID))
         return;
@@ -150,7 +160,7 @@ void ImportRun::TakeAlert(Recordset& row)
     if (LocateAlert(alert->ID) == 0) {
         // The alert in the collection keeps the ID 0: an alert of the file must never be taken for one that came of it.
         const QString key = u"A"_s + CStr(alert->AddToDB());
-        gAlerts.Add(key, contactID, CDate(Format(alert->AlertDate, u"mm/dd/yyyy")), alert->AlertNote, key);
+        gAlerts.Add(key, contactID, CDate(Format(alert->AlertDate, u"mm/dd/yyyy")), alert->AlertNote);
         return;
     }
     // The number is one of another file, so this falls on whatever alert stands at that position here, which is meant.
@@ -164,6 +174,8 @@ void ImportRun::TakeProperty(Recordset& row)
 {
     auto property = std::make_shared<PropDetail>();
     SetImportedFields(*property, row);
+    if (m_notAdded.contains(property->ContactID))
+        return;
     property->ContactID = m_contacts.Item(property->ContactID);
     curContact = ContactAt(property->ContactID);
     auto& properties = curContact->Properties;
@@ -183,28 +195,35 @@ void ImportRun::TakeLetter(Recordset& row)
                   text("FormText"_L1) + u"')"_s);
 }
 
+/// Takes the rows one by one; false where the store itself failed, which has been reported: every row behind would only
+/// say it again.
 template <typename Take>
-void TakeSection(const QString& fileName, Take&& take)
+bool TakeSection(const QString& fileName, Take&& take)
 {
+    const int failures = gConn.Failures();
     // A file that is not there is an empty document, and that is no rowset.
     QFile file(fileName);
     (void)file.open(QIODevice::ReadOnly);
     Recordset rows;
     rows.Open(file);
     file.close();
-    for (; !rows.Eof(); rows.MoveNext())
+    for (; !rows.Eof(); rows.MoveNext()) {
         take(rows);
+        if (gConn.Failures() != failures)
+            return false;
+    }
+    return true;
 }
 
 void Import(const SectionFiles& files)
 {
     ImportRun run;
-    TakeSection(files.Categories, [&run](Recordset& row) { run.TakeCategory(row); });
-    TakeSection(files.SubCategories, [&run](Recordset& row) { run.TakeSubCategory(row); });
-    TakeSection(files.Contacts, [&run](Recordset& row) { run.TakeContact(row); });
-    TakeSection(files.Alerts, [&run](Recordset& row) { run.TakeAlert(row); });
-    TakeSection(files.Properties, [&run](Recordset& row) { run.TakeProperty(row); });
-    if (files.FormLetters)
+    const bool wasStored = TakeSection(files.Categories, [&run](Recordset& row) { run.TakeCategory(row); }) &&
+                           TakeSection(files.SubCategories, [&run](Recordset& row) { run.TakeSubCategory(row); }) &&
+                           TakeSection(files.Contacts, [&run](Recordset& row) { run.TakeContact(row); }) &&
+                           TakeSection(files.Alerts, [&run](Recordset& row) { run.TakeAlert(row); }) &&
+                           TakeSection(files.Properties, [&run](Recordset& row) { run.TakeProperty(row); });
+    if (wasStored && files.FormLetters)
         TakeSection(*files.FormLetters, &ImportRun::TakeLetter);
     curContact.reset();
 }

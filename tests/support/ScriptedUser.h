@@ -48,6 +48,7 @@ public:
     void ShoWait(const QString& message) override;
     void ShoWait() override;
     void HourGlass(bool on) override;
+    void NoHourGlass() override { m_hourGlasses = 0; }
 
 private:
     struct Expected

@@ -2,7 +2,6 @@
 
 #include "core/adodb/Engine.h"
 #include "core/adodb/StatementBatch.h"
-#include "core/RunTimeError.h"
 
 #include <QDir>
 #include <QScopedValueRollback>
@@ -41,10 +40,12 @@ void Connection::Execute(const QString& statement)
     Engine& engine = OpenEngine();
     Record(statement);
     TranslatedStatement translated = Translate(statement);
-    if (m_batch != nullptr)
-        m_batch->Run(std::move(translated));
-    else
-        RunStatement(engine, translated);
+    Counted([&] {
+        if (m_batch != nullptr)
+            m_batch->Run(std::move(translated));
+        else
+            RunStatement(engine, translated);
+    });
 }
 
 void Connection::ShareCommits(const std::function<void()>& body)

@@ -74,6 +74,7 @@ void CommonDialog::Show(QWidget* owner, bool saves)
         return;
     }
     const QString path = QDir::cleanPath(QDir(StartFolder(*this)).absoluteFilePath(chosen));
+    const bool isChosenAsItIs = !saves && QFileInfo::exists(path);
     const bool hasExtension = QFileInfo(path).fileName().contains(u'.');
-    FileName = hasExtension || DefaultExt.isEmpty() ? path : path + u'.' + DefaultExt;
+    FileName = isChosenAsItIs || hasExtension || DefaultExt.isEmpty() ? path : path + u'.' + DefaultExt;
 }

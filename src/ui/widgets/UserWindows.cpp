@@ -9,8 +9,7 @@
 
 UserWindows::~UserWindows()
 {
-    while (m_hourGlasses > 0)
-        HourGlass(false);
+    TakeHourGlassesAway();
 }
 
 Answer UserWindows::MsgBox(const QString& text, Buttons buttons, Icon icon, const QString& title)
@@ -47,4 +46,15 @@ void UserWindows::HourGlass(bool on)
         --m_hourGlasses;
         QGuiApplication::restoreOverrideCursor();
     }
+}
+
+void UserWindows::NoHourGlass()
+{
+    TakeHourGlassesAway();
+}
+
+void UserWindows::TakeHourGlassesAway()
+{
+    for (; m_hourGlasses > 0; --m_hourGlasses)
+        QGuiApplication::restoreOverrideCursor();
 }

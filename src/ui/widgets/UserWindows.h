@@ -19,11 +19,14 @@ public:
     void ShoWait() override;
     /// Counts: the pointer is normal again once each hourglass that was shown has been taken away.
     void HourGlass(bool on) override;
+    void NoHourGlass() override;
 
     /// The main window's ShoWait; without one nothing is shown. An empty optional brings up to date the counts alone.
     void SetStatusBar(StatusBar statusBar) { m_statusBar = std::move(statusBar); }
 
 private:
+    void TakeHourGlassesAway();
+
     StatusBar m_statusBar;
     int m_hourGlasses = 0;
 };
