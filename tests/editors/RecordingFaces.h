@@ -98,7 +98,10 @@ public:
     void MarkSelected(Long, bool) override {}
     void RedrawContact(const Contact& contact) override;
     void RemoveContacts(const std::vector<Long>&) override {}
-    void RemoveProperties(const std::vector<Long>& ids) override { Removed.insert(Removed.end(), ids.begin(), ids.end()); }
+    void RemoveProperties(const std::vector<Long>& ids) override
+    {
+        Removed.insert(Removed.end(), ids.begin(), ids.end());
+    }
     void ShowHowManyFound() override { ++Counted; }
 
 private:
