@@ -31,7 +31,8 @@ void Fill()
           "Insert into Contacts (CategoryID,SubCategoryID,FirstName,LastName) Values (1,1,'Ann','Lee')"_L1,
           "Insert into Contacts (CategoryID,SubCategoryID,FirstName,MI,LastName) Values (1,1,'Bob','M','Ray')"_L1,
           "Insert into Contacts (CategoryID,SubCategoryID,FirstName,LastName) Values (1,1,'Cy','Day')"_L1,
-          "Insert into PropDetail (ContactID,Addr1) Values (1,'1 Elm Street')"_L1})
+          "Insert into PropDetail (ContactID,Addr1) Values (1,'1 Elm Street')"_L1,
+          "Update Contacts set DefaultProperty=1 Where ID=1"_L1})
         FreshDatabase::Execute(QString(statement));
 }
 
@@ -105,11 +106,12 @@ Grid& Office::OpenList()
 
 QStringList Office::WindowNames()
 {
-    return {u"splash"_s,       u"main window"_s,  u"main window with selected contacts"_s,
-            u"contact list"_s, u"new contact"_s,  u"contact"_s,
-            u"notes"_s,        u"move contact"_s, u"move category"_s,
-            u"question"_s,     u"line of text"_s, u"question of notes"_s,
-            u"error"_s};
+    return {u"splash"_s,       u"main window"_s,   u"main window with selected contacts"_s,
+            u"contact list"_s, u"new contact"_s,   u"contact"_s,
+            u"notes"_s,        u"move contact"_s,  u"move category"_s,
+            u"question"_s,     u"line of text"_s,  u"question of notes"_s,
+            u"error"_s,        u"property list"_s, u"new property"_s,
+            u"property"_s};
 }
 
 void Office::Open(const QString& window, const Look& look)
@@ -143,6 +145,8 @@ void Office::Open(const QString& window, const Look& look)
             inForm(u"frmContact"_s, [] { Trigger(List(), u"mnuModify"_s); });
         else if (window == "notes"_L1)
             inForm(u"frmNotes"_s, [] { Trigger(List(), u"mnuNotes"_s); });
+        else if (window.endsWith("property"_L1) || window.startsWith("property"_L1))
+            OpenProperty(window, look);
         else if (window == "move contact"_L1)
             inForm(u"frmMove"_s, [] { Trigger(List(), u"mnuMove"_s); });
         else

@@ -44,6 +44,8 @@ public:
 private:
     void Start();
     void OpenBox(const QString& window, const std::function<void(QWidget& window)>& look);
+    // OfficeProperties.cpp
+    static void OpenProperty(const QString& window, const std::function<void(QWidget& window)>& look);
 
     FreshDatabase m_database;
     UserWindows m_user;

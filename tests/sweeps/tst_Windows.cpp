@@ -26,7 +26,8 @@ private Q_SLOTS:
     void TheFocusIsWhereThePersonBegins();
     void TabComesToEveryControl_data();
     void TabComesToEveryControl();
-    void TheSheetOfAContactIsWalkedByTab();
+    void ASheetIsWalkedByTab_data();
+    void ASheetIsWalkedByTab();
     void AScreenReaderHasANameForEveryControl_data();
     void AScreenReaderHasANameForEveryControl();
     void NothingIsCut_data();
@@ -101,7 +102,10 @@ void tst_Windows::TheFocusIsWhereThePersonBegins_data()
                                                         {"line of text", "txtInput"},
                                                         {"question", "Yes"},
                                                         {"question of notes", "Yes"},
-                                                        {"error", "OK"}};
+                                                        {"error", "OK"},
+                                                        {"property list", "GridPropList"},
+                                                        {"new property", "txtMLS"},
+                                                        {"property", "txtAddr1"}};
     for (const auto& [window, control] : rows)
         QTest::newRow(window) << QString::fromLatin1(control);
 }
@@ -121,7 +125,7 @@ void tst_Windows::TabComesToEveryControl_data()
     QTest::addColumn<QString>("window");
     for (const QString& window : Office::WindowNames()) {
         // A sheet keeps Tab to its rows.
-        if (!window.endsWith("contact"_L1) || window.startsWith("move"_L1))
+        if ((!window.endsWith("contact"_L1) && !window.endsWith("property"_L1)) || window.startsWith("move"_L1))
             QTest::newRow(qUtf8Printable(window)) << window;
     }
 }
@@ -132,19 +136,30 @@ void tst_Windows::TabComesToEveryControl()
     Office().Open(window, [](QWidget& shown) { QCOMPARE(NotReachedByTab(shown).join(u"; "_s), QString()); });
 }
 
-void tst_Windows::TheSheetOfAContactIsWalkedByTab()
+void tst_Windows::ASheetIsWalkedByTab_data()
 {
-    Office().Open(u"contact"_s, [](QWidget& window) {
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<QString>("last");
+    QTest::newRow("contact") << 19 << u"txtFax"_s;
+    QTest::newRow("new property") << 33 << u"txtSoldPrice"_s;
+}
+
+void tst_Windows::ASheetIsWalkedByTab()
+{
+    QFETCH(const int, rows);
+    QFETCH(const QString, last);
+    Office().Open(QString::fromLatin1(QTest::currentDataTag()), [&](QWidget& window) {
         QStringList walked;
         while (!walked.contains(NameOf(QApplication::focusWidget()))) {
             walked << NameOf(QApplication::focusWidget());
             TypeKey(window, Qt::Key_Tab);
         }
-        QCOMPARE(walked.size(), 19);
-        QCOMPARE(walked.last(), u"txtFax"_s);
+        QCOMPARE(walked.size(), rows);
+        QCOMPARE(walked.last(), last);
         // Tab stays on the sheet, so each button must have a key that it tells.
-        for (const QAbstractButton* button : window.findChildren<QAbstractButton*>(QRegularExpression(u"^cmdButton"_s)))
-            QVERIFY2(button->toolTip().contains("Alt+"_L1), qUtf8Printable(button->text()));
+        for (const QAbstractButton* button :
+             window.findChildren<QAbstractButton*>(QRegularExpression(u"^cmdButton|^pic"_s)))
+            QVERIFY2(button->toolTip().contains("Alt+"_L1), qUtf8Printable(button->objectName()));
     });
 }
 
