@@ -10,7 +10,7 @@ source packaging/common.sh
 
 # What the documents show.
 in_documents=(splash main main-empty list contact contact-new notes move-contact-chosen move-category ask
-    box-question box-information)
+    box-question box-information property-list property property-date property-new)
 
 need build run screen
 build dev make_window_pictures make_sample orvantine_data

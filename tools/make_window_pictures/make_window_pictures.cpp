@@ -11,6 +11,7 @@
 #include "core/adodb/Connection.h"
 #include "core/Clock.h"
 #include "make_window_pictures/Album.h"
+#include "make_window_pictures/PropertyPictures.h"
 #include "make_window_pictures/Stage.h"
 #include "model/Contact.h"
 #include "model/Main.h"
@@ -178,6 +179,7 @@ void Run::Full()
     ListMenus();
     EditorOfNew();
     EditorOfOld();
+    TakeProperties(m_album, Window(u"frmList"_s));
     Notes();
     Choosers();
     Boxes();
