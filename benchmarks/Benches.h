@@ -13,3 +13,6 @@ void RegisterNewContact(int contacts);
 /// The contact list with all contacts in it; opened on a twentieth of all contacts; and a twentieth of its rows, spread
 /// over all of it, deleted. Against plain walks and the bare deletion.
 void RegisterLists(int contacts);
+/// One new property: its Insert and the reading back of its number, from the editor; a letter of the Rolodex; all
+/// contacts of a list selected. Against the bare statements and plain walks.
+void RegisterProperties(int contacts);

@@ -10,6 +10,7 @@ namespace {
 constexpr double loadLimit = 0.7;
 constexpr double memoryLimit = 4096; // bytes for a contact
 constexpr double startLimit = 2.5;
+constexpr double savePropertyLimit = 1.5;
 constexpr double newContactLimit = 4; // from the smallest size to the largest
 constexpr double growthLimit = 1.3;   // times the growth of the yardstick
 
@@ -79,9 +80,13 @@ std::vector<Figures::Line> Figures::Lines(const std::vector<int>& sizes) const
         const char* Words;
         double Limit;
     };
-    constexpr std::array titles{Title{"Load", "Loading", loadLimit}, Title{"Start", "Start", startLimit},
-                                Title{"FillList", "Filling the list", 0}, Title{"OpenSubcategory", "Opening a 20th", 0},
-                                Title{"DeleteHighlighted", "Deleting a 20th", 0}};
+    constexpr std::array titles{Title{"Load", "Loading", loadLimit},
+                                Title{"Start", "Start", startLimit},
+                                Title{"FillList", "Filling the list", 0},
+                                Title{"OpenSubcategory", "Opening a 20th", 0},
+                                Title{"DeleteHighlighted", "Deleting a 20th", 0},
+                                Title{"RolodexLetter", "A letter of the Rolodex", 0},
+                                Title{"SelectAll", "Selecting all", 0}};
     const int first = sizes.front();
     const int last = sizes.back();
     const int before = sizes[sizes.size() - 2];
@@ -91,6 +96,8 @@ std::vector<Figures::Line> Figures::Lines(const std::vector<int>& sizes) const
             lines.push_back(Beside(title.Words, title.Figure, contacts, title.Limit));
         lines.push_back(GrowthBeside(title.Words, title.Figure, before, last));
     }
+    for (const int contacts : sizes)
+        lines.push_back(Beside("One new property", "SaveProperty", contacts, savePropertyLimit));
     for (const int contacts : sizes)
         lines.push_back(Beside("One new contact", "NewContact", contacts, 0));
     const double grown = Growth("NewContact", program, first, last);

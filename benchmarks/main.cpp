@@ -34,6 +34,7 @@ int main(int argc, char** argv)
         RegisterMemory(contacts);
         RegisterNewContact(contacts);
         RegisterLists(contacts);
+        RegisterProperties(contacts);
     }
     Figures figures;
     benchmark::RunSpecifiedBenchmarks(&figures);
