@@ -13,6 +13,9 @@ void RegisterNewContact(int contacts);
 /// The contact list with all contacts in it; opened on a twentieth of all contacts; and a twentieth of its rows, spread
 /// over all of it, deleted. Against plain walks and the bare deletion.
 void RegisterLists(int contacts);
-/// One new property: its Insert and the reading back of its number, from the editor; a letter of the Rolodex; all
-/// contacts of a list selected. Against the bare statements and plain walks.
+/// Both panels filled with the alerts of all contacts, and one more alert added to a full one, against one pass that
+/// formats the same cells.
+void RegisterAlerts(int contacts);
+/// One new property: its Insert and the reading back of its number, from the editor; a letter of the Rolodex; all contacts
+/// of a list selected. Against the bare statements and plain walks.
 void RegisterProperties(int contacts);

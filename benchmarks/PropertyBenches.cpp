@@ -1,6 +1,7 @@
 #include "BareStore.h"
 #include "Benches.h"
 #include "editors/frmProperty.h"
+#include "Figures.h"
 #include "LoadedProgram.h"
 #include "Median.h"
 #include "model/Contact.h"
@@ -123,6 +124,9 @@ void BareSelect(benchmark::State& state)
 
 void RegisterProperties(int contacts)
 {
+    AddFigure({"SaveProperty", "One new property", 1.5, 0});
+    AddFigure({"RolodexLetter", "A letter of the Rolodex"});
+    AddFigure({"SelectAll", "Selecting all"});
     const auto add = [contacts](const char* name, void (*run)(benchmark::State&), int times) {
         return benchmark::RegisterBenchmark(name, run)->Arg(contacts)->Iterations(times);
     };

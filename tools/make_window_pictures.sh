@@ -10,7 +10,9 @@ source packaging/common.sh
 
 # What the documents show.
 in_documents=(splash main main-empty list contact contact-new notes move-contact-chosen move-category ask
-    box-question box-information property-list property property-date property-new)
+    alerts alerts-editing alerts-menu-gridalerts alert-contacts calendar
+    property-list property property-date property-new
+    box-question box-information)
 
 need build run screen
 build dev make_window_pictures make_sample orvantine_data

@@ -52,7 +52,8 @@ public:
     {
         Log << QStringLiteral("ShowPropertyCount %1 %2").arg(contactID).arg(count);
     }
-    void SetAlertIcon(int) override {}
+    void ShowAlertIcon() override {}
+    void FocusFirstName() override {}
     void ShowChecked(Long, bool) override {}
     void FillContactList() override {}
     void UnloadList() override { Unloaded = true; }

@@ -1,42 +1,29 @@
-#include "make_window_pictures/PropertyPictures.h"
-
-#include "make_window_pictures/Album.h"
-#include "make_window_pictures/Stage.h"
+#include "make_window_pictures/Run.h"
 #include "model/Contact.h"
 #include "model/Main.h"
 #include "model/PropDetail.h"
 #include "ui/widgets/Grid.h"
 
-#include <QAction>
 #include <QApplication>
-#include <QComboBox>
-#include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
 #include <QTemporaryDir>
 #include <QTest>
-#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-void Click(Grid& grid, int row, QStringView key, Qt::MouseButton button = Qt::LeftButton)
+void Click(Grid& grid, int row, QStringView key)
 {
-    const QModelIndex cell = grid.model()->index(row - 1, grid.ColumnIndex(key) - 1);
-    QTest::mouseClick(grid.viewport(), button, {}, grid.visualRect(cell).center());
-    Settle();
+    Run::ClickCell(grid, row, grid.ColumnIndex(key));
 }
 
-Grid& GridOf(QWidget& window)
-{
-    return *window.findChild<Grid*>();
-}
-
+/// Chooses an entry that the opening of its menu brings up to date.
 void Choose(QWidget& window, const QString& menu, const QString& entry)
 {
-    Q_EMIT window.findChild<QMenu*>(menu)->aboutToShow();
-    window.findChild<QAction*>(entry)->trigger();
+    Q_EMIT Find<QMenu>(window, menu).aboutToShow();
+    Run::Trigger(window, entry);
 }
 
 /// A house on a summer day, as a file.
@@ -76,53 +63,54 @@ int RowWithProperties(const Grid& contacts)
     throw std::runtime_error("no contact of the list has several properties");
 }
 
-void TakeEditor(Album& album, QWidget& form)
+void TabTo(QWidget& form, const QString& control)
 {
-    const auto key = [&form](Qt::Key code) { QTest::keyClick(form.windowHandle(), code); };
-    album.Take(form, u"property"_s);
-    auto* combo = form.findChild<QComboBox*>(u"cboConstruction"_s);
-    while (QApplication::focusWidget() != combo)
-        key(Qt::Key_Tab);
-    album.Take(form, u"property-combo"_s);
-    auto* date = form.findChild<QLineEdit*>(u"txtListingDate"_s);
-    while (QApplication::focusWidget() != date)
-        key(Qt::Key_Tab);
-    album.Take(form, u"property-date"_s);
-    InModal([&form] { QTest::keyClick(form.windowHandle(), Qt::Key_D, Qt::AltModifier); },
-            [&album](QWidget& calendar) { album.Take(calendar, u"property-calendar"_s); });
-    key(Qt::Key_Escape);
+    const auto& field = Find<QWidget>(form, control);
+    while (QApplication::focusWidget() != &field)
+        Key(form, Qt::Key_Tab);
 }
 
-void TakeList(Album& album, QWidget& form)
+void TakeEditor(Run& run, QWidget& form)
 {
-    Grid& rows = GridOf(form);
+    run.Take(form, u"property"_s);
+    TabTo(form, u"cboConstruction"_s);
+    run.Take(form, u"property-combo"_s);
+    TabTo(form, u"txtListingDate"_s);
+    run.Take(form, u"property-date"_s);
+    run.TakeModal([&form] { Key(form, Qt::Key_D, Qt::AltModifier); }, u"property-calendar"_s);
+    Key(form, Qt::Key_Escape);
+}
+
+void TakeList(Run& run, QWidget& form)
+{
+    auto& rows = Find<Grid>(form, u"GridPropList"_s);
     Click(rows, 1, u"City");
     QTest::qWait(120);
-    album.Take(form, u"property-list"_s);
-    Click(rows, 1, u"City", Qt::RightButton);
-    album.TakeWithPopup(form, *QApplication::activePopupWidget(), u"property-list-menu"_s);
-    QApplication::activePopupWidget()->close();
+    run.Take(form, u"property-list"_s);
+    run.TakeCellMenu(form, rows, 1, rows.ColumnIndex(u"City"), u"property-list-menu"_s);
     Click(rows, 2, u"Address1");
-    album.Take(form, u"property-list-no-photo"_s);
+    run.Take(form, u"property-list-no-photo"_s);
     rows.EnsureVisible(1, rows.Columns());
-    album.Take(form, u"property-list-end"_s);
+    run.Take(form, u"property-list-end"_s);
     rows.EnsureVisible(1, 1);
     Click(rows, 1, u"Address1");
     InModal([&form] { Choose(form, u"mnuProperty"_s, u"mnuModify"_s); },
-            [&album](QWidget& editor) { TakeEditor(album, editor); });
+            [&run](QWidget& editor) { TakeEditor(run, editor); });
     InModal([&form] { Choose(form, u"mnuProperty"_s, u"mnuNew"_s); },
-            [&album](QWidget& editor) {
-                album.Take(editor, u"property-new"_s);
-                QTest::keyClick(editor.windowHandle(), Qt::Key_Escape);
+            [&run](QWidget& editor) {
+                run.Take(editor, u"property-new"_s);
+                Key(editor, Qt::Key_Escape);
             });
 }
 
 } // namespace
 
-void TakeProperties(Album& album, QWidget& contactList)
+void TakeProperties(Run& run)
 {
     const QTemporaryDir folder;
-    Grid& contacts = GridOf(contactList);
+    run.Click(u"S2"_s);
+    run.OpenList();
+    Grid& contacts = Run::List();
     const int row = RowWithProperties(contacts);
     contacts.EnsureVisible(row, 1);
     const std::shared_ptr<Contact> contact = ContactAt(contacts.RowItemData(row));
@@ -131,6 +119,6 @@ void TakeProperties(Album& album, QWidget& contactList)
     contact->DefaultProperty = first->RecID;
     curPropertyID = first->RecID;
     Click(contacts, row, u"City");
-    InModal([&contactList] { Choose(contactList, u"mnuContacts"_s, u"mnuProperties"_s); },
-            [&album](QWidget& form) { TakeList(album, form); });
+    InModal([] { Choose(Run::ListWindow(), u"mnuContacts"_s, u"mnuProperties"_s); },
+            [&run](QWidget& form) { TakeList(run, form); });
 }
