@@ -35,6 +35,7 @@ int main(int argc, char** argv)
         RegisterLists(contacts);
         RegisterAlerts(contacts);
         RegisterTransfer(contacts);
+        RegisterProperties(contacts);
     }
     Figures figures;
     benchmark::RunSpecifiedBenchmarks(&figures);

@@ -12,6 +12,7 @@ source packaging/common.sh
 in_documents=(splash main main-empty list contact contact-new notes move-contact-chosen move-category ask
     alerts alerts-editing alerts-menu-gridalerts alert-contacts calendar
     feedback feedback-review
+    property-list property property-date property-new
     box-question box-information)
 
 need build run screen

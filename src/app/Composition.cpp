@@ -37,6 +37,8 @@ void Composition::PlugOpeners()
 {
     gOpeners.ContactEditor = [] { ShowContactEditor(); };
     gOpeners.Notes = [] { ShowNotes(); };
+    gOpeners.PropertyEditor = [] { ShowPropertyEditor(); };
+    gOpeners.PropertyList = [] { ShowPropertyList(); };
     gOpeners.ContactList = [this] { ShowContactList(&m_main); };
     gOpeners.SelectedToRolodex = [this] { m_rolodex->mnuSelectedToRolodex_Click(); };
     gOpeners.Alerts = [] { ShowAlerts(); };

@@ -11,7 +11,7 @@ class Rolodex;
 ///   CategoryTree  -> first tab, mnuCategory
 ///   Rolodex       -> first tab
 ///   AlertPanels   -> first tab, mnuAlertGrid
-///   frmList, frmContact, frmNotes, frmAlerts, ManageAlerts, SetNewAlert_Click  -> openers
+///   frmList, frmContact, frmNotes, frmProperty, frmPropertyList, frmAlerts, ManageAlerts, SetNewAlert_Click  -> openers
 ///
 /// What is not plugged in stands disabled in the menus.
 class Composition

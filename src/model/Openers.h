@@ -23,6 +23,8 @@ struct Openers
     /// frmCreateWordFile in its contact mode for the listed contacts.
     std::function<void()> WordFileOfListed;
     std::function<void()> WordFileOfSelected;
+    /// The same in its property mode for the highlighted rows of the property list.
+    std::function<void()> WordFileOfProperty;
     std::function<void()> ExportSelected;
     std::function<void()> SelectedToRolodex;
     std::function<void()> Import;

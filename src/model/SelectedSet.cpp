@@ -111,13 +111,29 @@ void UnselectAll()
     });
 }
 
-qsizetype HilitedContacts()
+namespace {
+
+/// Rebuilds gHilited and gHilitedList from the highlighted rows of a list, none where it is not loaded.
+template <typename ListFace>
+qsizetype Hilited()
 {
-    const auto* list = Face<ContactListFace>::Get();
+    const auto* list = Face<ListFace>::Get();
     gHilited = list != nullptr ? list->Highlighted() : std::vector<Long>{};
     QStringList ids;
     for (const Long id : gHilited)
         ids << CStr(id);
     gHilitedList = ids.join(u',');
     return std::ssize(gHilited);
+}
+
+} // namespace
+
+qsizetype HilitedContacts()
+{
+    return Hilited<ContactListFace>();
+}
+
+qsizetype HilitedProperties()
+{
+    return Hilited<PropertyListFace>();
 }

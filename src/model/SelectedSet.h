@@ -38,6 +38,8 @@ void UnselectAll();
 
 /// Counts the highlighted rows of the contact list, and rebuilds gHilited and gHilitedList from them.
 qsizetype HilitedContacts();
+/// The same of the property list.
+qsizetype HilitedProperties();
 
 /// Brings the third panel of the status bar and the Selected Contacts menu in line with gSelected.
 void ShowSelectedCount();

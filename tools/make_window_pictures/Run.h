@@ -61,3 +61,4 @@ private:
 void TakeDesk(Run& run);
 void TakeAlerts(Run& run);
 void TakeFeedback(Run& run);
+void TakeProperties(Run& run);
