@@ -60,6 +60,10 @@ void Fill(QListWidget& list, std::span<const LetterField> fields)
 FormLetters::FormLetters() : m_ui(std::make_unique<Ui::FormLetters>())
 {
     m_ui->setupUi(this);
+    // A letter that is only looked at is there to be read.
+    QPalette readable = m_ui->Letter->palette();
+    readable.setColor(QPalette::Disabled, QPalette::Text, readable.color(QPalette::Active, QPalette::Text));
+    m_ui->Letter->setPalette(readable);
     for (QLabel* label : {m_ui->lblForms, m_ui->lblContactFields, m_ui->lblPropFields}) {
         m_captions.insert(label, label->text());
         label->installEventFilter(this);
@@ -165,8 +169,7 @@ QString FormLetters::SelectedName() const
 
 QString FormLetters::LetterText() const
 {
-    // A break that Shift made is a line break like any other.
-    return PlainText(*m_ui->Letter).replace(QChar(QChar::LineSeparator), u"\r\n"_s);
+    return PlainText(*m_ui->Letter);
 }
 
 void FormLetters::ShowLetter(const QString& text)

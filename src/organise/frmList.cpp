@@ -190,7 +190,7 @@ void frmList::AddContact(const std::shared_ptr<Contact>& contact)
     curContact = contact;
     const int row = m_grid->AddRow(contact->RecID);
     WriteRow(row);
-    if (contact->NumberOfAlerts > 0)
+    if (!gAlerts.OfContact(contact->RecID).empty())
         SetAlertIcon(row);
     if (contact->Selected)
         m_grid->SetCellIcon(row, checkedColumn, u"checked"_s);
@@ -233,6 +233,20 @@ void frmList::SetAlertIcon(int row)
         m_grid->SetCellText(row, alertColumn,
                             curContact->NumberOfAlerts > 0 ? CStr(curContact->NumberOfAlerts) : QString());
     });
+}
+
+void frmList::ShowAlertIcon()
+{
+    if (!curContact)
+        return;
+    if (const int row = m_grid->FindRow(curContact->RecID); row > 0)
+        SetAlertIcon(row);
+}
+
+void frmList::FocusFirstName()
+{
+    if (SelectedRow() > 0)
+        m_grid->SetSelectedCol(firstFieldColumn);
 }
 
 int frmList::Rows() const

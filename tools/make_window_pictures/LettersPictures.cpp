@@ -1,7 +1,4 @@
-#include "make_window_pictures/LettersPictures.h"
-
-#include "make_window_pictures/Album.h"
-#include "make_window_pictures/Stage.h"
+#include "make_window_pictures/Run.h"
 #include "ui/frame/frmMain.h"
 
 #include <QAbstractButton>
@@ -15,51 +12,57 @@ namespace {
 
 void Press(const QWidget& window, const QString& button)
 {
-    window.findChild<QAbstractButton*>(button)->click();
+    Find<QAbstractButton>(window, button).click();
     Settle();
 }
 
 void Choose(const QWidget& window, const QString& list, const QString& line)
 {
-    auto* lines = window.findChild<QListWidget*>(list);
-    lines->setCurrentItem(lines->findItems(line, Qt::MatchExactly).value(0));
-    lines->scrollToItem(lines->currentItem());
+    auto& lines = Find<QListWidget>(window, list);
+    lines.setCurrentItem(lines.findItems(line, Qt::MatchExactly).value(0));
 }
 
-void Write(frmMain& main)
+void WriteLetter(QWidget& main)
 {
     Press(main, u"picForms_1"_s);
-    auto* letter = main.findChild<QPlainTextEdit*>(u"Letter"_s);
-    letter->insertPlainText(u"Dear "_s);
+    auto& letter = Find<QPlainTextEdit>(main, u"Letter"_s);
+    letter.insertPlainText(u"Dear "_s);
     Choose(main, u"lstContactFields"_s, u"First Name"_s);
     Press(main, u"picInsertContactInfo"_s);
-    letter->insertPlainText(u",\n\nthe house at "_s);
+    letter.insertPlainText(u",\n\nthe house at "_s);
     Choose(main, u"lstPropFields"_s, u"Address1"_s);
     Press(main, u"picInsertPropInfo"_s);
-    letter->insertPlainText(u"is <b>yours</b>!"_s);
+    letter.insertPlainText(u"is <b>yours</b>!"_s);
+}
+
+void LabelWindow(Run& run)
+{
+    InModal([&run] { Press(run.Main(), u"lblLabelType"_s); },
+            [&run](QWidget& form) {
+                run.Take(form, u"labels-empty"_s);
+                Choose(form, u"lstProducts"_s, u"Avery Letter Size"_s);
+                Choose(form, u"lstNumbers"_s, u"5160"_s);
+                run.Take(form, u"labels"_s);
+                Press(form, u"cmdbutton_2"_s);
+            });
 }
 
 } // namespace
 
-void TakeLetters(Album& album, frmMain& main)
+void TakeLetters(Run& run)
 {
+    frmMain& main = run.Main();
+    main.activateWindow();
     main.ShowTab(static_cast<int>(frmMain::Tab::Letters));
     Settle();
     Choose(main, u"lstForms"_s, u"Listing Expires Soon"_s);
-    album.Take(main, u"letters"_s);
-    InModal([&main] { Press(main, u"lblLabelType"_s); },
-            [&album](QWidget& form) {
-                album.Take(form, u"labels-empty"_s);
-                Choose(form, u"lstProducts"_s, u"Avery Letter Size"_s);
-                Choose(form, u"lstNumbers"_s, u"5160"_s);
-                album.Take(form, u"labels"_s);
-                Press(form, u"cmdbutton_2"_s);
-            });
-    Write(main);
-    QTest::mouseMove(main.findChild<QWidget*>(u"picInsertPropInfo"_s));
-    album.Take(main, u"letters-writing"_s);
-    main.findChild<QWidget*>(u"picForms_3"_s)->setFocus(Qt::TabFocusReason);
-    album.Take(main, u"letters-focus"_s);
+    LabelWindow(run);
+    run.Take(main, u"letters"_s);
+    WriteLetter(main);
+    QTest::mouseMove(&Find<QWidget>(main, u"picInsertPropInfo"_s));
+    run.Take(main, u"letters-writing"_s);
+    Find<QWidget>(main, u"picForms_3"_s).setFocus(Qt::TabFocusReason);
+    run.Take(main, u"letters-focus"_s);
     Press(main, u"picForms_4"_s);
     main.ShowTab(static_cast<int>(frmMain::Tab::Contacts));
 }
