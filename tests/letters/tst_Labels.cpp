@@ -1,8 +1,11 @@
 #include "letters/Study.h"
+#include "letters/WordProcessor.h"
+#include "support/WordReader.h"
 
 #include "letters/LabelsMerge.h"
-#include "letters/word/OpenDocument.h"
 
+#include <algorithm>
+#include <cmath>
 #include <QFile>
 #include <QPushButton>
 
@@ -34,18 +37,11 @@ private:
         ClickOn(form, u"cmdbutton_2"_s);
     }
 
-    QStringList m_opened;
+    std::unique_ptr<WordProcessor> m_word;
 
 private Q_SLOTS:
-    void init()
-    {
-        m_opened.clear();
-        Word::SetDocumentOpener([this](const QString& path) {
-            m_opened << path;
-            return true;
-        });
-    }
-    void cleanup() { Word::SetDocumentOpener({}); }
+    void init() { m_word = std::make_unique<WordProcessor>(); }
+    void cleanup() { m_word.reset(); }
 
     void TheChosenLabelIsKept()
     {
@@ -124,7 +120,7 @@ private Q_SLOTS:
         QCOMPARE(study.Person.LastBox().Picture, Icon::Information);
         QVERIFY(!Control<QAbstractButton>(study.Main(), u"cmdbutton_8"_s).isDown());
         QCOMPARE(gSettings.LabelProduct == 0, cancelled);
-        QCOMPARE(m_opened, QStringList());
+        QCOMPARE(m_word->Opened(), QStringList());
     }
 
     void TheSourceHoldsTheAddresses()
@@ -142,13 +138,58 @@ private Q_SLOTS:
                                       "Bob M Ray\t7 Pine Rd\t\tReno\t \t89502\t\r\n"));
     }
 
+    void TheLabelsLieOnTheirSheet_data()
+    {
+        QTest::addColumn<QString>("brand");
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<QSizeF>("size");
+        QTest::addColumn<QPointF>("first");
+        QTest::addColumn<qreal>("pitch");
+        QTest::addRow("30 a sheet") << u"Avery Letter Size"_s << u"5160"_s << QSizeF(215.9, 279.4)
+                                    << QPointF(4.78, 12.7) << 69.85;
+        QTest::addRow("14 a sheet") << u"Avery Letter Size"_s << u"5162"_s << QSizeF(215.9, 279.4)
+                                    << QPointF(3.96, 21.17) << 106.36;
+    }
+
+    void TheLabelsLieOnTheirSheet()
+    {
+        QFETCH(QString, brand);
+        QFETCH(QString, number);
+        Study study;
+        Study::Select({1, 2});
+        const WhenFormOpens window(u"frmLabelType"_s, [&](Form& form) { Choose(form, brand, number); });
+        ClickOn(study.Main(), u"cmdbutton_8"_s);
+        QCOMPARE(m_word->Opened().size(), 1);
+        QCOMPARE(PackageFaults(m_word->Opened()[0]), QStringList());
+        const QList<QList<Page>> documents = RenderDocuments(m_word->Opened());
+        QCOMPARE(documents.size(), 1);
+        QCOMPARE(documents[0].size(), 1);
+        const Page& page = documents[0][0];
+        QFETCH(QSizeF, size);
+        QVERIFY(std::abs(page.Size.width() - size.width()) < 0.5 && std::abs(page.Size.height() - size.height()) < 0.5);
+        const auto place = [&page](const QString& text) {
+            const auto word = std::ranges::find(page.Words, text, &PageWord::Text);
+            return word != page.Words.end() ? word->Place : QRectF();
+        };
+        QFETCH(QPointF, first);
+        QFETCH(qreal, pitch);
+        const QRectF ann = place(u"Ann"_s);
+        const QRectF bob = place(u"Bob"_s);
+        QVERIFY(ann.left() > first.x() && ann.top() > first.y());
+        QVERIFY(std::abs(bob.left() - ann.left() - pitch) < 0.5);
+        // The third line of Bob's label is empty, and stays.
+        QVERIFY(place(u"89502"_s).top() - bob.top() > 2 * (place(u"Pine"_s).top() - bob.top()) + 1);
+        QVERIFY(page.Lines.join(u' ').contains("NV  89501-1234"_L1) ||
+                page.Lines.join(u' ').contains("NV 89501-1234"_L1));
+    }
+
     void AStateThatIsNullEndsTheRun()
     {
         Study study;
         Study::Select({1, 3});
         study.Person.Expect(u"frmMain CreateLabelSourceFile Error #94"_s, u"Invalid use of Null"_s);
         LabelsMerge();
-        QCOMPARE(m_opened, QStringList());
+        QCOMPARE(m_word->Opened(), QStringList());
     }
 
     void ALabelThatNobodyKnowsIsRefused_data()
@@ -171,7 +212,7 @@ private Q_SLOTS:
         gSettings.LabelNumber = number;
         study.Person.ExpectReport(u"Label Generation Error 5843"_s);
         ClickOn(study.Main(), u"cmdbutton_8"_s);
-        QCOMPARE(m_opened, QStringList());
+        QCOMPARE(m_word->Opened(), QStringList());
         QVERIFY(!study.Person.HourGlassIsOn());
     }
 };

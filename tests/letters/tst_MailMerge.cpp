@@ -1,8 +1,9 @@
 #include "letters/Study.h"
+#include "letters/WordProcessor.h"
+#include "support/WordReader.h"
 
 #include "letters/LetterWalk.h"
 #include "letters/MailMerge.h"
-#include "letters/word/OpenDocument.h"
 
 #include <QFile>
 
@@ -30,18 +31,11 @@ private:
         return text;
     }
 
-    QStringList m_opened;
+    std::unique_ptr<WordProcessor> m_word;
 
 private Q_SLOTS:
-    void init()
-    {
-        m_opened.clear();
-        Word::SetDocumentOpener([this](const QString& path) {
-            m_opened << path;
-            return true;
-        });
-    }
-    void cleanup() { Word::SetDocumentOpener({}); }
+    void init() { m_word = std::make_unique<WordProcessor>(); }
+    void cleanup() { m_word.reset(); }
 
     void TheWalkFindsTheMarkers_data()
     {
@@ -126,7 +120,7 @@ private Q_SLOTS:
             "Contacts.DefaultProperty = "
             "PropDetail.ID Where Contacts.ID in (3,1,2) "_L1));
         QTEST(Source(), "source");
-        QCOMPARE(m_opened.size(), 1);
+        QCOMPARE(m_word->Opened().size(), 1);
     }
 
     void WhatHasNoPlaceInTheFileIsWrittenAsItIs()
@@ -137,6 +131,41 @@ private Q_SLOTS:
         Study::Select({2});
         MailMerge(u"!<FirstName>!!<MI>!!<Company>!"_s);
         QCOMPARE(Source(), QByteArray("FirstName\tMI\tCompany\t\r\nDvor\xE1k ?\ta\tb\tc\r\nd\t\r\n"));
+    }
+
+    void TheLettersComeOutOfTheWordProcessor()
+    {
+        Study study;
+        Study::AddLetter(u"Address"_s,
+                         u"!<FormattedName>!\r\n!<MailAddr1>!\r\n!<MailAddr2>!\r\n\r\nDear <b>!<FirstName>!</b>, "
+                         "your !<PropType>! in !<City>! for !<AskingPrice>!"_s);
+        study.Page().LoadFormLetters();
+        study.Forms().setCurrentRow(3);
+        Study::Select({2, 1});
+        const QStringList before = FreshDatabase::WholeFile();
+        ClickOn(study.Main(), u"cmdbutton_7"_s);
+        QCOMPARE(FreshDatabase::WholeFile(), before);
+        study.Forms().setCurrentRow(2); // no marker: it goes as it is, with nobody selected too
+        UnSelectCurContact();
+        ClickOn(study.Main(), u"cmdbutton_7"_s);
+        QVERIFY(!study.Person.HourGlassIsOn());
+
+        QCOMPARE(m_word->Opened().size(), 2);
+        QVERIFY(m_word->Opened()[0].contains("/Form Letters"_L1));
+        for (const QString& document : m_word->Opened())
+            QCOMPARE(PackageFaults(document), QStringList());
+        const QList<QList<Page>> documents = RenderDocuments(m_word->Opened());
+        QCOMPARE(documents.size(), 2);
+        QCOMPARE(documents[0].size(), 2);
+        QCOMPARE(documents[0][0].Lines, (QStringList{u"Ann Lee"_s, u"100 Oak St"_s, u"Apt 2"_s,
+                                                     u"Dear <b>Ann</b>, your Townhome in Sparks for $250,000"_s}));
+        QCOMPARE(documents[0][0].Bold, QStringList{u"b>Ann<"_s});
+        // The second line of the address is empty, and goes.
+        QCOMPARE(documents[0][1].Lines,
+                 (QStringList{u"Bob M Ray"_s, u"7 Pine Rd"_s, u"Dear <b>Bob</b>, your in for"_s}));
+        QCOMPARE(documents[1].size(), 1);
+        QCOMPARE(documents[1][0].Lines, (QStringList{u"Come in."_s, u"<b>Now</b>"_s}));
+        QCOMPARE(documents[1][0].Bold, QStringList());
     }
 
     void TheButtonTellsWhatIsMissing()
@@ -152,7 +181,7 @@ private Q_SLOTS:
         QVERIFY(!study.Person.HourGlassIsOn());
         for (const int index : {0, 5, 6, 9})
             study.Page().ProcessCmdButtons(index);
-        QCOMPARE(m_opened, QStringList());
+        QCOMPARE(m_word->Opened(), QStringList());
         QCOMPARE(Source(), QByteArray("none"));
     }
 
@@ -177,7 +206,7 @@ private Q_SLOTS:
         const QStringList before = FreshDatabase::WholeFile();
         study.Person.ExpectReport(u"frmMain MailMerge Error #%1"_s.arg(number));
         MailMerge(letter);
-        QCOMPARE(m_opened, QStringList());
+        QCOMPARE(m_word->Opened(), QStringList());
         QCOMPARE(FreshDatabase::WholeFile(), before);
     }
 
@@ -188,7 +217,7 @@ private Q_SLOTS:
         QVERIFY(QDir(study.Database.Folder()).mkdir(u"Data/MailMergeSource.txt"_s));
         study.Person.Expect(u"frmMain MailMerge Error #70"_s, u"Permission denied"_s);
         MailMerge(u"!<FirstName>!"_s);
-        QCOMPARE(m_opened, QStringList());
+        QCOMPARE(m_word->Opened(), QStringList());
     }
 };
 
