@@ -1,9 +1,11 @@
+#include "letters/word/OpenDocument.h"
 #include "make_window_pictures/Run.h"
 #include "ui/frame/frmMain.h"
 
 #include <QAbstractButton>
 #include <QListWidget>
 #include <QPlainTextEdit>
+#include <QStandardPaths>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -47,6 +49,17 @@ void LabelWindow(Run& run)
             });
 }
 
+/// Keeps the document that a button makes beside the pictures, to be rendered by the word processor.
+void TakeDocument(Run& run, const QString& button, const QString& name)
+{
+    QStandardPaths::setTestModeEnabled(true); // not the person's own cache
+    const QString kept = run.Pictures().Folder().filePath(name + u".docx"_s);
+    QFile::remove(kept);
+    Word::SetDocumentOpener([&kept](const QString& path) { return QFile::copy(path, kept); });
+    Press(run.Main(), button);
+    Word::SetDocumentOpener({});
+}
+
 } // namespace
 
 void TakeLetters(Run& run)
@@ -64,5 +77,7 @@ void TakeLetters(Run& run)
     Find<QWidget>(main, u"picForms_3"_s).setFocus(Qt::TabFocusReason);
     run.Take(main, u"letters-focus"_s);
     Press(main, u"picForms_4"_s);
+    TakeDocument(run, u"cmdbutton_7"_s, u"letters-page"_s);
+    TakeDocument(run, u"cmdbutton_8"_s, u"labels-sheet"_s);
     main.ShowTab(static_cast<int>(frmMain::Tab::Contacts));
 }
