@@ -13,7 +13,6 @@
 #include <QAction>
 #include <QMenuBar>
 #include <QVBoxLayout>
-#include <unordered_set>
 
 using namespace Qt::StringLiterals;
 
@@ -310,13 +309,7 @@ void frmList::SelectContact(Long contactID)
 
 void frmList::RemoveContacts(const std::vector<Long>& contactIDs)
 {
-    const std::unordered_set<Long> gone(contactIDs.begin(), contactIDs.end());
-    std::vector<int> rows;
-    for (int row = 1; row <= Rows(); ++row) {
-        if (gone.contains(m_grid->RowItemData(row)))
-            rows.push_back(row);
-    }
-    m_grid->RemoveRows(rows);
+    RemoveRowsOf(*m_grid, contactIDs);
     if (Rows() > 0)
         GridList_SelectionChange();
 }
