@@ -77,6 +77,7 @@ void TakeLetters(Run& run)
     Find<QWidget>(main, u"picForms_3"_s).setFocus(Qt::TabFocusReason);
     run.Take(main, u"letters-focus"_s);
     Press(main, u"picForms_4"_s);
+    Choose(main, u"lstForms"_s, u"Welcome"_s);
     TakeDocument(run, u"cmdbutton_7"_s, u"letters-page"_s);
     TakeDocument(run, u"cmdbutton_8"_s, u"labels-sheet"_s);
     main.ShowTab(static_cast<int>(frmMain::Tab::Contacts));
