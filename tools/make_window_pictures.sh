@@ -14,7 +14,7 @@ in_documents=(splash main main-empty list contact contact-new notes move-contact
     letters letters-writing labels
     box-question box-information)
 
-need build run screen
+need build run screen test
 build dev make_window_pictures make_sample orvantine_data
 pictures=build/dev/window-pictures
 rm -rf "$pictures"

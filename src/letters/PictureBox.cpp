@@ -2,7 +2,7 @@
 
 #include "ui/widgets/Pictures.h"
 
-#include <QKeyEvent>
+#include <QFocusEvent>
 #include <QPainter>
 
 namespace {
@@ -14,19 +14,14 @@ constexpr QColor PaleInk(0xA8, 0xB0, 0xBC);
 
 } // namespace
 
-PictureBox::PictureBox(QWidget* parent) : QAbstractButton(parent)
+PictureBox::PictureBox(QWidget* parent) : HoverButton(parent)
 {
     // A press leaves the focus, and with it the caret of the letter, where it is.
-    setFocusPolicy(Qt::TabFocus);
-    setCursor(Qt::PointingHandCursor);
-    setMouseTracking(true);
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-}
-
-void PictureBox::SetPicture(const QString& name)
-{
-    m_picture = name;
-    update();
+    SetTakesFocus(false);
+    connect(this, &HoverButton::Hovered, this, [this](int, bool lit) {
+        if (lit)
+            Q_EMIT MouseMoveOver();
+    });
 }
 
 void PictureBox::SetWords(const QString& words)
@@ -48,7 +43,7 @@ QSize PictureBox::sizeHint() const
 
 QPixmap PictureBox::OnBackColor() const
 {
-    QPixmap picture = Pictures::Pixmap(m_picture, PictureSize, devicePixelRatioF());
+    QPixmap picture = Pictures::Pixmap(Picture(), PictureSize, devicePixelRatioF());
     QPainter painter(&picture);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(QRect(QPoint(), PictureSize), isEnabled() ? InkOnColor : PaleInk);
@@ -67,35 +62,14 @@ void PictureBox::paintEvent(QPaintEvent*)
     if (m_backColor.isValid())
         painter.drawPixmap(corner, OnBackColor());
     else
-        painter.drawPixmap(corner, Pictures::Icon(m_picture).pixmap(PictureSize, devicePixelRatioF(),
+        painter.drawPixmap(corner, Pictures::Icon(Picture()).pixmap(PictureSize, devicePixelRatioF(),
                                                                     isEnabled() ? QIcon::Normal : QIcon::Disabled));
-    if (hasFocus()) {
-        painter.setPen(QPen(palette().color(QPalette::Active, QPalette::Highlight), 1.5));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 5, 5);
-    }
-}
-
-void PictureBox::mouseMoveEvent(QMouseEvent* event)
-{
-    QAbstractButton::mouseMoveEvent(event);
-    Q_EMIT MouseMoveOver();
+    DrawFocus(painter);
 }
 
 void PictureBox::focusInEvent(QFocusEvent* event)
 {
-    QAbstractButton::focusInEvent(event);
+    HoverButton::focusInEvent(event);
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
         Q_EMIT MouseMoveOver();
-}
-
-void PictureBox::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
-        QAbstractButton::keyPressEvent(event);
-        return;
-    }
-    event->accept();
-    if (!event->isAutoRepeat())
-        click();
 }

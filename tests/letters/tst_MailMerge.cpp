@@ -210,6 +210,18 @@ private Q_SLOTS:
         QCOMPARE(FreshDatabase::WholeFile(), before);
     }
 
+    void WithoutAWordProcessorTheDocumentIsNamed()
+    {
+        m_word = std::make_unique<WordProcessor>(false);
+        Study study;
+        Study::Select({1});
+        study.Person.ExpectReport(u"frmMain MailMerge Error #429"_s);
+        MailMerge(u"!<FirstName>!"_s);
+        QVERIFY(study.Person.LastBox().Text.contains(m_word->Opened().value(0)));
+        study.Person.ExpectReport(u"frmMain CallWord Error #429"_s);
+        CallWord(u"Come in."_s);
+    }
+
     void AFolderThatCannotBeWrittenToIsReported()
     {
         Study study;
