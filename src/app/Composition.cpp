@@ -3,6 +3,7 @@
 #include "alerts/AlertPanels.h"
 #include "alerts/ManageAlerts.h"
 #include "editors/Editors.h"
+#include "letters/reports/Reports.h"
 #include "model/DeleteContacts.h"
 #include "model/Openers.h"
 #include "model/SelectedSet.h"
@@ -37,6 +38,7 @@ void Composition::PlugOpeners()
     gOpeners.ContactList = [this] { ShowContactList(&m_main); };
     gOpeners.SelectedToRolodex = [this] { m_rolodex->mnuSelectedToRolodex_Click(); };
     gOpeners.Alerts = [] { ShowAlerts(); };
+    PlugReports();
     gOpeners.ManageAlerts = [] { ManageAlerts(); };
     gOpeners.SetNewAlert = [] {
         if (SetNewAlert_Click())
