@@ -105,7 +105,7 @@ Grid& Office::OpenList()
 
 QStringList Office::WindowNames()
 {
-    return {u"splash"_s,       u"main window"_s,  u"main window with selected contacts"_s,
+    return {u"splash"_s,       u"main window"_s,  u"main window with selected contacts"_s, u"report"_s,
             u"contact list"_s, u"new contact"_s,  u"contact"_s,
             u"notes"_s,        u"move contact"_s, u"move category"_s,
             u"question"_s,     u"line of text"_s, u"question of notes"_s,
@@ -125,6 +125,10 @@ void Office::Open(const QString& window, const Look& look)
         Trigger(List(), u"mnuSelect"_s);
         List().Unload();
         look(Main());
+    } else if (window == "report"_L1) {
+        OpenList();
+        inForm(u"frmCreateWordFile"_s, [] { Trigger(List(), u"mnuWord"_s); });
+        List().Unload();
     } else if (window == "line of text"_L1) {
         inForm(u"frmDialog"_s, [this] { Trigger(Main(), u"mnuCatCreate"_s); });
     } else if (window == "move category"_L1) {
