@@ -10,6 +10,8 @@ source packaging/common.sh
 
 # What the documents show.
 in_documents=(splash main main-empty list contact contact-new notes move-contact-chosen move-category ask
+    alerts alerts-editing alerts-menu-gridalerts alert-contacts calendar
+    report
     box-question box-information)
 
 need build run screen
