@@ -16,3 +16,5 @@ void RegisterLists(int contacts);
 /// Both panels filled with the alerts of all contacts, and one more alert added to a full one, against one pass that
 /// formats the same cells.
 void RegisterAlerts(int contacts);
+/// A document of mailing labels, one for each record, against a label printer that makes the same sheets.
+void RegisterLabels(int records);

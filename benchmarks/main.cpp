@@ -34,6 +34,7 @@ int main(int argc, char** argv)
         RegisterNewContact(contacts);
         RegisterLists(contacts);
         RegisterAlerts(contacts);
+        RegisterLabels(contacts);
     }
     Figures figures;
     benchmark::RunSpecifiedBenchmarks(&figures);

@@ -12,6 +12,7 @@ source packaging/common.sh
 in_documents=(splash main main-empty list contact contact-new notes move-contact-chosen move-category ask
     alerts alerts-editing alerts-menu-gridalerts alert-contacts calendar
     letters letters-writing labels
+    report
     box-question box-information)
 
 need build run screen test
@@ -59,13 +60,12 @@ for name in "${in_documents[@]}"; do
         keep "$pictures/scale-1/$name-$scheme.png" "docs/pictures/$name-$scheme.png"
     done
 done
-
-# What the buttons of the letters made, as a word processor renders its first page.
-for name in letters-page labels-sheet; do
-    soffice --headless "-env:UserInstallation=file://$PWD/$pictures/office" --convert-to pdf --outdir "$pictures" \
-        "$pictures/scale-1/$name.docx" > /dev/null
-    pdftoppm -png -r 60 -l 1 -singlefile "$pictures/$name.pdf" "$pictures/$name"
-    convert "$pictures/$name.png" -bordercolor '#A8B0BC' -border 1 "$pictures/$name.png"
+# Documents, as the word processor renders their first page.
+for name in letters-page labels-sheet report-page; do
+    soffice -env:UserInstallation="file://$PWD/$pictures/office-profile" --headless --convert-to pdf \
+        --outdir "$pictures" "$pictures/scale-1/$name.docx" > /dev/null
+    pdftoppm -r 72 -png -singlefile "$pictures/$name.pdf" "$pictures/$name"
+    convert "$pictures/$name.png" -bordercolor '#999' -border 1 "$pictures/$name.png"
     keep "$pictures/$name.png" "docs/pictures/$name.png"
 done
 cp "$pictures/scale-1/main-window-light.png" docs/pictures/main-window.png

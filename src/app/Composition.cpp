@@ -4,6 +4,7 @@
 #include "alerts/ManageAlerts.h"
 #include "editors/Editors.h"
 #include "letters/FormLetters.h"
+#include "letters/reports/Reports.h"
 #include "model/DeleteContacts.h"
 #include "model/Openers.h"
 #include "model/SelectedSet.h"
@@ -43,6 +44,7 @@ void Composition::PlugOpeners()
     gOpeners.ContactList = [this] { ShowContactList(&m_main); };
     gOpeners.SelectedToRolodex = [this] { m_rolodex->mnuSelectedToRolodex_Click(); };
     gOpeners.Alerts = [] { ShowAlerts(); };
+    PlugReports();
     gOpeners.ManageAlerts = [] { ManageAlerts(); };
     gOpeners.SetNewAlert = [] {
         if (SetNewAlert_Click())

@@ -117,6 +117,15 @@ public:
     virtual void UnloadList() = 0;
 };
 
+/// GridPropList of frmPropertyList. A row's data is the property's ID.
+class PropertyListFace
+{
+public:
+    virtual ~PropertyListFace() = default;
+    /// The IDs of the highlighted rows, from the first.
+    [[nodiscard]] virtual std::vector<Long> Highlighted() const = 0;
+};
+
 /// GridRolodex.
 class RolodexFace
 {
@@ -138,6 +147,9 @@ public:
     /// Redraws each row of this contact, where the list shows contacts.
     virtual void RedrawContact(const Contact& contact) = 0;
     virtual void RemoveContacts(const std::vector<Long>& contactIDs) = 0;
+    /// The properties of all rows, or of the highlighted ones; none where the list shows contacts.
+    [[nodiscard]] virtual std::vector<Long> FoundProperties() const = 0;
+    [[nodiscard]] virtual std::vector<Long> HighlightedProperties() const = 0;
     virtual void ShowHowManyFound() = 0;
 };
 

@@ -97,7 +97,7 @@ Grid& Office::OpenList()
 
 const QList<OfficeWindow>& Office::Windows()
 {
-    static const QList<OfficeWindow> windows = DeskWindows() + AlertWindows() + LettersWindows();
+    static const QList<OfficeWindow> windows = DeskWindows() + AlertWindows() + LettersWindows() + ReportWindows();
     return windows;
 }
 

@@ -61,3 +61,4 @@ private:
 void TakeDesk(Run& run);
 void TakeAlerts(Run& run);
 void TakeLetters(Run& run);
+void TakeReports(Run& run);

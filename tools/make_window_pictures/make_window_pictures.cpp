@@ -43,6 +43,7 @@ void TakeFull(Album& album, const QString& folder)
     TakeDesk(run);
     TakeAlerts(run);
     TakeLetters(run);
+    TakeReports(run);
 }
 
 void TakeEmpty(Album& album, const QString& folder)
