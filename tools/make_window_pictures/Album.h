@@ -22,8 +22,6 @@ public:
     /// The windows as they stand on the desk, the last one in front, each at its place.
     void TakeDesk(const QList<std::pair<QWidget*, QPoint>>& windows, QSize desk, const QString& name);
 
-    [[nodiscard]] const QDir& Folder() const { return m_folder; }
-
 private:
     void Save(const QPixmap& picture, const QString& name) const;
 
