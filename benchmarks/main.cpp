@@ -36,6 +36,7 @@ int main(int argc, char** argv)
         RegisterAlerts(contacts);
         RegisterTransfer(contacts);
         RegisterProperties(contacts);
+        RegisterLabels(contacts);
     }
     Figures figures;
     benchmark::RunSpecifiedBenchmarks(&figures);

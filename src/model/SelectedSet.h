@@ -3,11 +3,12 @@
 #include "core/Types.h"
 
 #include <list>
+#include <QString>
 #include <unordered_map>
 #include <vector>
 
-/// The IDs of the Selected contacts, in the order of selecting, positions from 1. Finding and removing an ID cost the same at
-/// any size; a walk over all goes through `Ids`.
+/// The IDs of the Selected contacts, in the order of selecting, positions from 1. Finding and removing an ID cost the
+/// same at any size; a walk over all goes through `Ids`.
 class SelectedSet
 {
 public:
@@ -27,6 +28,9 @@ private:
     std::list<Long> m_order;
     std::unordered_map<Long, std::list<Long>::iterator> m_index;
 };
+
+/// The Selected contacts in their order, joined by "," for an "in" clause.
+[[nodiscard]] QString SelectedIDs();
 
 /// Adds curContact to gSelected, and marks it in every view that shows it. Nothing happens where it is there already.
 void SelectCurContact();

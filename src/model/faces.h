@@ -155,6 +155,9 @@ public:
     virtual void RemoveContacts(const std::vector<Long>& contactIDs) = 0;
     /// Removes the rows of these properties, where the list shows properties.
     virtual void RemoveProperties(const std::vector<Long>& propertyIDs) = 0;
+    /// The properties of all rows, or of the highlighted ones; none where the list shows contacts.
+    [[nodiscard]] virtual std::vector<Long> FoundProperties() const = 0;
+    [[nodiscard]] virtual std::vector<Long> HighlightedProperties() const = 0;
     virtual void ShowHowManyFound() = 0;
 };
 

@@ -99,6 +99,8 @@ public:
 
     [[nodiscard]] std::vector<Long> FoundContacts() const override { return {}; }
     [[nodiscard]] std::vector<Long> HighlightedContacts() const override { return {}; }
+    [[nodiscard]] std::vector<Long> FoundProperties() const override { return {}; }
+    [[nodiscard]] std::vector<Long> HighlightedProperties() const override { return {}; }
     void MarkSelected(Long, bool) override {}
     void RedrawContact(const Contact& contact) override;
     void RemoveContacts(const std::vector<Long>&) override {}

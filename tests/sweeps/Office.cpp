@@ -98,7 +98,8 @@ Grid& Office::OpenList()
 
 const QList<OfficeWindow>& Office::Windows()
 {
-    static const QList<OfficeWindow> windows = DeskWindows() + PropertyWindows() + AlertWindows() + FeedbackWindows();
+    static const QList<OfficeWindow> windows = DeskWindows() + PropertyWindows() + AlertWindows() + LettersWindows() +
+                                               ReportWindows() + FeedbackWindows();
     return windows;
 }
 

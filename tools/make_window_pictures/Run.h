@@ -62,3 +62,5 @@ void TakeDesk(Run& run);
 void TakeAlerts(Run& run);
 void TakeFeedback(Run& run);
 void TakeProperties(Run& run);
+void TakeLetters(Run& run);
+void TakeReports(Run& run);

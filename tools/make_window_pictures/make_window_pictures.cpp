@@ -44,6 +44,8 @@ void TakeFull(Album& album, const QString& folder)
     TakeAlerts(run);
     TakeFeedback(run);
     TakeProperties(run);
+    TakeLetters(run);
+    TakeReports(run);
 }
 
 void TakeEmpty(Album& album, const QString& folder)
