@@ -46,7 +46,7 @@ public:
     void UpdateContactGridCols() override {}
     void SetSelectedRowData(Long) override {}
     void ShowPropertyCount(Long, int) override {}
-    void SetAlertIcon(int) override {}
+    void ShowAlertIcon() override {}
     void ShowChecked(Long, bool) override {}
     void FillContactList() override {}
     void UnloadList() override {}
