@@ -47,6 +47,7 @@ public:
     void SetSelectedRowData(Long) override {}
     void ShowPropertyCount(Long, int) override {}
     void ShowAlertIcon() override {}
+    void FocusFirstName() override {}
     void ShowChecked(Long, bool) override {}
     void FillContactList() override {}
     void UnloadList() override {}
