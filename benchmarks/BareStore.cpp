@@ -140,6 +140,22 @@ long long BareStore::AddContact(const std::string& firstName, const std::string&
     return id;
 }
 
+long long BareStore::AddProperty(long long contactID, const std::string& address) const
+{
+    const std::string owner = std::to_string(contactID);
+    Run("Insert Into PropDetail (Addr1,Addr2,City,State,Zip,Zip4,ContactID,MLS,Subdivision,PropType,Construction,SqFt,"
+        "Roof,Parking,Rooms,Baths,Floor,Pool,MaintFee,AssocFee,Waterfront,Floodzone,Rented,RentalBasis,RentalAmount,"
+        "LeaseExpires,Elevator,PetsAllowed,ListingDate,AskingPrice,ExpDate,ClosingDate,SoldDate,SoldPrice) Values ('" +
+        address + "','','Miami',0,'',''," + owner +
+        ",'','',0,0,0,0,0,0,0,0,0,0,0,'0','0','0',0,0,'','0','0','',0,'','','',0)");
+    Statement readBack(m_database.get(),
+                       "Select ID from PropDetail Where Addr1='" + address + "' And Addr2='' And ContactID=" + owner);
+    long long id = 0;
+    if (readBack.Step())
+        readBack.ReadRow(id);
+    return id;
+}
+
 void BareStore::Delete(const std::vector<long long>& contactIDs) const
 {
     std::string list;

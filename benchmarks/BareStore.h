@@ -58,6 +58,8 @@ public:
     [[nodiscard]] BareContents Load() const;
     /// Inserts a contact, and reads its number back by its names.
     long long AddContact(const std::string& firstName, const std::string& lastName) const;
+    /// Inserts a property, and reads its number back by its address.
+    long long AddProperty(long long contactID, const std::string& address) const;
     /// Deletes contacts with their properties and alerts.
     void Delete(const std::vector<long long>& contactIDs) const;
 

@@ -18,3 +18,8 @@ void RegisterLists(int contacts);
 void RegisterAlerts(int contacts);
 /// A backup of everything, and its restore into the same program. Against bare loops that write, or parse and insert.
 void RegisterTransfer(int contacts);
+/// One new property: its Insert and the reading back of its number, from the editor; a letter of the Rolodex; all contacts
+/// of a list selected. Against the bare statements and plain walks.
+void RegisterProperties(int contacts);
+/// A document of mailing labels, one for each record, against a label printer that makes the same sheets.
+void RegisterLabels(int records);

@@ -1,13 +1,11 @@
 #include "BareStore.h"
 #include "Benches.h"
-#include "core/User.h"
 #include "Figures.h"
-#include "model/Category.h"
+#include "LoadedProgram.h"
 #include "model/Contact.h"
 #include "model/DeleteContacts.h"
 #include "model/Main.h"
 #include "organise/frmList.h"
-#include "Program.h"
 #include "Samples.h"
 #include "ui/widgets/Grid.h"
 
@@ -22,52 +20,6 @@ namespace {
 
 /// A subcategory of "a twentieth" is 5,000 of 100,000 contacts.
 constexpr int part = 20;
-
-/// Answers every question with yes.
-class Consent : public User
-{
-public:
-    Consent() { Install(this); }
-    ~Consent() override { Install(nullptr); }
-    Answer MsgBox(const QString& text, Buttons buttons, Icon, const QString&) override
-    {
-        if (buttons != Buttons::YesNo)
-            qFatal("%s", qPrintable(text));
-        return Answer::Yes;
-    }
-    QString AskFor(const QString&, int) override { return {}; }
-    void ShoWait(const QString&) override {}
-    void ShoWait() override {}
-    void HourGlass(bool) override {}
-};
-
-/// The loaded program with every `every`-th contact in one subcategory, which is the current one.
-class LoadedProgram
-{
-public:
-    LoadedProgram(int contacts, int every) : m_copy(contacts)
-    {
-        OpenProgram(m_copy.Folder());
-        LoadProgram();
-        const std::shared_ptr<Category> here = gCategories.Items().front();
-        const std::shared_ptr<Category> there = gCategories.Items().back();
-        int position = 0;
-        gContacts.ForEach([&](Long, const std::shared_ptr<Contact>& contact) {
-            const std::shared_ptr<Category>& category = position++ % every == 0 ? here : there;
-            contact->CategoryID = category->RecID;
-            contact->subCategoryID = static_cast<Integer>(category->Sub(1)->RecID);
-        });
-        curCategoryID = here->RecID;
-        curSubIndex = 1;
-    }
-    ~LoadedProgram() { CloseProgram(); }
-    LoadedProgram(const LoadedProgram&) = delete;
-    LoadedProgram& operator=(const LoadedProgram&) = delete;
-
-private:
-    const Consent m_user;
-    const SampleCopy m_copy;
-};
 
 void ShowAndFill(frmList& list)
 {

@@ -35,6 +35,8 @@ int main(int argc, char** argv)
         RegisterLists(contacts);
         RegisterAlerts(contacts);
         RegisterTransfer(contacts);
+        RegisterProperties(contacts);
+        RegisterLabels(contacts);
     }
     Figures figures;
     benchmark::RunSpecifiedBenchmarks(&figures);

@@ -5,12 +5,12 @@ export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file
 say() { printf '%s\n' "$*" >&2; }
 die() { say "$*"; exit 1; }
 
-# packages_of SECTION...: the packages that packaging/packages.txt lists under these headings.
+# packages_of SECTION...: the lines that packaging/packages.txt has under these headings, a package or "a|b" on each.
 packages_of() {
     awk -v wanted=" $* " '
         match($0, /^# \[[a-z]+\]/) { taken = index(wanted, " " substr($0, 4, RLENGTH - 4) " "); next }
         /^#/ || NF == 0 { next }
-        taken { print $1 }' packaging/packages.txt
+        taken { gsub(/ /, ""); print }' packaging/packages.txt
 }
 
 as_root() {
@@ -23,15 +23,23 @@ as_root() {
     fi
 }
 
+# any_installed PACKAGE...
+any_installed() {
+    local package
+    for package in "$@"; do
+        [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null || true)" != installed ] || return 0
+    done
+    return 1
+}
+
 # need SECTION...: installs what is missing. A stamp in build/ saves the look at the next run.
 need() {
-    local stamp missing=() package state
+    local stamp missing=() line
     stamp="build/.packages-$(printf '%s-' "$@")$(cksum < packaging/packages.txt | cut -d' ' -f1)"
     [ -e "$stamp" ] && return
     command -v dpkg-query >/dev/null || die "This is no Debian system. Please install by hand: $(packages_of "$@" | xargs)"
-    for package in $(packages_of "$@"); do
-        state=$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null || true)
-        [ "$state" = installed ] || missing+=("$package")
+    for line in $(packages_of "$@"); do
+        any_installed ${line//|/ } || missing+=("${line%%|*}")
     done
     if [ ${#missing[@]} -gt 0 ]; then
         say "Installing ${missing[*]}"

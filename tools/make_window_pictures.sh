@@ -12,9 +12,12 @@ source packaging/common.sh
 in_documents=(splash main main-empty list contact contact-new notes move-contact-chosen move-category ask
     alerts alerts-editing alerts-menu-gridalerts alert-contacts calendar
     feedback feedback-review
+    property-list property property-date property-new
+    letters letters-writing labels
+    report
     box-question box-information)
 
-need build run screen
+need build run screen test
 build dev make_window_pictures make_sample orvantine_data
 pictures=build/dev/window-pictures
 rm -rf "$pictures"
@@ -58,6 +61,14 @@ for name in "${in_documents[@]}"; do
     for scheme in light dark; do
         keep "$pictures/scale-1/$name-$scheme.png" "docs/pictures/$name-$scheme.png"
     done
+done
+# Documents, as the word processor renders their first page.
+for name in letters-page labels-sheet report-page; do
+    soffice -env:UserInstallation="file://$PWD/$pictures/office-profile" --headless --convert-to pdf \
+        --outdir "$pictures" "$pictures/scale-1/$name.docx" > /dev/null
+    pdftoppm -r 72 -png -singlefile "$pictures/$name.pdf" "$pictures/$name"
+    convert "$pictures/$name.png" -bordercolor '#999' -border 1 "$pictures/$name.png"
+    keep "$pictures/$name.png" "docs/pictures/$name.png"
 done
 cp "$pictures/scale-1/main-window-light.png" docs/pictures/main-window.png
 say "All pictures: $pictures; those of the documents: docs/pictures"

@@ -4,6 +4,8 @@
 #include "alerts/ManageAlerts.h"
 #include "app/frmCallHome.h"
 #include "editors/Editors.h"
+#include "letters/FormLetters.h"
+#include "letters/reports/Reports.h"
 #include "model/DeleteContacts.h"
 #include "model/Openers.h"
 #include "model/SelectedSet.h"
@@ -17,13 +19,18 @@
 
 using namespace Qt::StringLiterals;
 
-Composition::Composition() : m_tree(new CategoryTree(m_main)), m_rolodex(new Rolodex), m_alerts(new AlertPanels(m_main))
+Composition::Composition()
+    : m_tree(new CategoryTree(m_main))
+    , m_rolodex(new Rolodex)
+    , m_alerts(new AlertPanels(m_main))
+    , m_letters(new FormLetters)
 {
     // The main window is the last to go, and everything hangs on it: it outlives its own unloading.
     m_main.SetDeleteOnUnload(false);
     m_main.AddContactsPanel(m_tree, 1);
     m_main.AddContactsPanel(m_rolodex, 1);
     m_main.AddContactsPanel(m_alerts, 1);
+    m_main.SetPage(frmMain::Tab::Letters, m_letters);
     PlugOpeners();
     PlugSelectedMenu();
 }
@@ -37,9 +44,12 @@ void Composition::PlugOpeners()
 {
     gOpeners.ContactEditor = [] { ShowContactEditor(); };
     gOpeners.Notes = [] { ShowNotes(); };
+    gOpeners.PropertyEditor = [] { ShowPropertyEditor(); };
+    gOpeners.PropertyList = [] { ShowPropertyList(); };
     gOpeners.ContactList = [this] { ShowContactList(&m_main); };
     gOpeners.SelectedToRolodex = [this] { m_rolodex->mnuSelectedToRolodex_Click(); };
     gOpeners.Alerts = [] { ShowAlerts(); };
+    PlugReports();
     gOpeners.ManageAlerts = [] { ManageAlerts(); };
     gOpeners.SetNewAlert = [] {
         if (SetNewAlert_Click())
@@ -57,6 +67,8 @@ void Composition::PlugSelectedMenu()
     Menus& menus = m_main.MainMenus();
     menus.Plug(u"mnuUnselectAll"_s, &m_main, [] { UnselectAll(); });
     menus.Plug(u"mnuDeleteSelectedContacts"_s, &m_main, [] { DeleteContacts(DeleteMode::Selected); });
+    // It stands there and does nothing.
+    menus.Plug(u"mnuMailandLabels"_s, &m_main, [] {});
     menus.PlugOpener(u"mnuManageAlerts"_s, &m_main, gOpeners.ManageAlerts);
     menus.PlugOpener(u"mnuSetNewAlert"_s, &m_main, gOpeners.SetNewAlert);
     menus.PlugOpener(u"mnuSelectedToRolodex"_s, &m_main, gOpeners.SelectedToRolodex);

@@ -4,6 +4,7 @@
 
 class AlertPanels;
 class CategoryTree;
+class FormLetters;
 class Rolodex;
 
 /// The main window with the features plugged in:
@@ -11,7 +12,8 @@ class Rolodex;
 ///   CategoryTree  -> first tab, mnuCategory
 ///   Rolodex       -> first tab
 ///   AlertPanels   -> first tab, mnuAlertGrid
-///   frmList, frmContact, frmNotes, frmAlerts, ManageAlerts, SetNewAlert_Click  -> openers
+///   FormLetters   -> tab Letters and Labels
+///   frmList, frmContact, frmNotes, frmProperty, frmPropertyList, frmAlerts, ManageAlerts, SetNewAlert_Click  -> openers
 ///
 /// What is not plugged in stands disabled in the menus.
 class Composition
@@ -31,4 +33,5 @@ private:
     CategoryTree* m_tree;
     Rolodex* m_rolodex;
     AlertPanels* m_alerts;
+    FormLetters* m_letters;
 };

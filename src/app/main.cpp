@@ -1,5 +1,6 @@
-#include "app/frmSplash.h"
 #include "model/Main.h"
+#include "app/frmSplash.h"
+#include "letters/word/OpenDocument.h"
 #include "ui/widgets/Pictures.h"
 #include "ui/widgets/Theme.h"
 #include "ui/widgets/UserWindows.h"
@@ -21,6 +22,7 @@ int main(int argc, char** argv)
     gAppPath = QApplication::applicationDirPath();
     // Temporary files with people's data lie with the data, wherever the program was started from.
     QDir::setCurrent(AppFile(u"\\Data"_s));
+    Word::RemoveOldDocuments();
 
     UserWindows user;
     User::Install(&user);

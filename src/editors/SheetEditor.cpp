@@ -232,6 +232,8 @@ void SheetEditor::txtFirst_GotFocus()
 {
     const int row = m_startRow ? m_startRow(m_row) : 1;
     SetNextFocus(row < 1 || row > Rows() ? 1 : row);
+    if (m_started)
+        m_started(m_row);
 }
 
 void SheetEditor::SetNextFocus(int row)

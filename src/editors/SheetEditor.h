@@ -59,6 +59,8 @@ public:
     [[nodiscard]] int CurRow() const { return m_row; }
     /// How txtFirst_GotFocus chooses its row: told the row in edit, gives the row to begin with.
     void SetStartRow(std::function<int(int curRow)> startRow) { m_startRow = std::move(startRow); }
+    /// What a window does once txtFirst_GotFocus has put its row in edit.
+    void SetStarted(std::function<void(int row)> started) { m_started = std::move(started); }
     /// The focus comes to the sheet from before its first row: when the window opens, by Shift+Tab on the first row,
     /// after Clear.
     void txtFirst_GotFocus();
@@ -104,6 +106,7 @@ private:
     std::vector<QWidget*> m_controls;
     QHash<const QObject*, int> m_rowOf;
     std::function<int(int)> m_startRow;
+    std::function<void(int)> m_started;
     Grid* m_grid = nullptr;
     QWidget* m_txtFirst = nullptr;
     QWidget* m_txtEnd = nullptr;

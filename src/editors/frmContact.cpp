@@ -5,27 +5,19 @@
 #include "core/Trap.h"
 #include "editors/ContactRecord.h"
 #include "editors/ContactRows.h"
+#include "editors/SheetButtons.h"
 #include "editors/SheetEditor.h"
 #include "model/Categories.h"
 #include "model/Contact.h"
 #include "model/faces.h"
 #include "model/Main.h"
-#include "ui/widgets/HoverButton.h"
 #include "ui/widgets/HoverButtonArray.h"
 
 #include <QBoxLayout>
-#include <QShortcut>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-enum Button
-{
-    Cancel = 1,
-    SaveAndExit,
-    SaveNAdd
-};
 
 QString NewCaption()
 {
@@ -72,27 +64,8 @@ void frmContact::Form_Load()
 
 void frmContact::LoadBitMaps()
 {
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(8);
-    buttons->addStretch();
-    m_buttons = new HoverButtonArray(*this, *buttons,
-                                     {{Cancel, u"Cancel"_s, u"Cancel"_s},
-                                      {SaveAndExit, u"SaveAndExit"_s, u"Save and exit"_s},
-                                      {SaveNAdd, u"SaveNAdd"_s, u"Save and add"_s}});
-    buttons->addStretch();
-    static_cast<QBoxLayout*>(layout())->addLayout(buttons);
-    // A press leaves the focus where it is: the sheet is asked first, and the person goes on in the same row after a
-    // refusal.
-    m_buttons->SetTakesFocus(false);
+    m_buttons = AddSheetButtons(*this, *static_cast<QBoxLayout*>(layout()));
     connect(m_buttons, &HoverButtonArray::Click, this, &frmContact::Press);
-    const std::pair<int, QString> keys[] = {{Cancel, u"Alt+C"_s}, {SaveAndExit, u"Alt+S"_s}, {SaveNAdd, u"Alt+A"_s}};
-    for (const auto& [index, key] : keys) {
-        auto* shortcut = new QShortcut(QKeySequence(key), this);
-        shortcut->setAutoRepeat(false);
-        connect(shortcut, &QShortcut::activated, this, [this, i = index] { Press(i); });
-        HoverButton* button = m_buttons->Button(index);
-        button->setToolTip(u"%1 (%2)"_s.arg(button->text(), key));
-    }
 }
 
 void frmContact::LoadContact()
@@ -121,7 +94,7 @@ void frmContact::ClearGrids()
 
 void frmContact::EscapePressed()
 {
-    Press(Cancel);
+    Press(SheetButton::Cancel);
 }
 
 void frmContact::Form_QueryUnload(bool&, UnloadMode mode)
@@ -141,14 +114,14 @@ void frmContact::Form_Unload(bool&)
 
 void frmContact::Press(int index)
 {
-    if (IsUnloaded() || (index != Cancel && !m_sheet->Leave()))
+    if (IsUnloaded() || (index != SheetButton::Cancel && !m_sheet->Leave()))
         return;
     Trap(u"frmContact cmdButton_Click Error #"_s, Icon::Critical, [this, index] { cmdButton_Click(index); });
 }
 
 void frmContact::cmdButton_Click(int index)
 {
-    if (index == Cancel) {
+    if (index == SheetButton::Cancel) {
         CancelContact();
         Unload();
         return;
@@ -166,7 +139,7 @@ void frmContact::cmdButton_Click(int index)
         return;
     }
     ApplyChanges(*m_sheet);
-    if (index == SaveAndExit) {
+    if (index == SheetButton::SaveAndExit) {
         Unload();
         ShoWait(u"Saved"_s);
     } else {

@@ -23,6 +23,12 @@ struct Openers
     /// frmCreateWordFile in its contact mode for the listed contacts.
     std::function<void()> WordFileOfListed;
     std::function<void()> WordFileOfSelected;
+    std::function<void()> WordFileOfFoundContacts;
+    std::function<void()> WordFileOfHilitedContacts;
+    std::function<void()> WordFileOfFoundProperties;
+    std::function<void()> WordFileOfHilitedProperties;
+    /// The same in its property mode for the highlighted rows of the property list.
+    std::function<void()> WordFileOfProperty;
     std::function<void()> ExportSelected;
     std::function<void()> SelectedToRolodex;
     std::function<void()> Import;

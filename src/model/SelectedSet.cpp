@@ -50,7 +50,8 @@ void ShowSelectedCount()
     if (count == 0)
         main->SetPanel(3, {});
     else
-        main->SetPanel(3, u" "_s + CStr(qint64{count}) + (count == 1 ? u" selected contact"_s : u" selected contacts"_s));
+        main->SetPanel(3,
+                       u" "_s + CStr(qint64{count}) + (count == 1 ? u" selected contact"_s : u" selected contacts"_s));
 }
 
 namespace {
@@ -111,13 +112,39 @@ void UnselectAll()
     });
 }
 
+namespace {
+
+QString Joined(const std::vector<Long>& ids)
+{
+    QStringList texts;
+    for (const Long id : ids)
+        texts << CStr(id);
+    return texts.join(u',');
+}
+
+/// Rebuilds gHilited and gHilitedList from the highlighted rows of a list, none where it is not loaded.
+template <typename ListFace>
+qsizetype Hilited()
+{
+    const auto* list = Face<ListFace>::Get();
+    gHilited = list != nullptr ? list->Highlighted() : std::vector<Long>{};
+    gHilitedList = Joined(gHilited);
+    return std::ssize(gHilited);
+}
+
+} // namespace
+
+QString SelectedIDs()
+{
+    return Joined(gSelected.Ids());
+}
+
 qsizetype HilitedContacts()
 {
-    const auto* list = Face<ContactListFace>::Get();
-    gHilited = list != nullptr ? list->Highlighted() : std::vector<Long>{};
-    QStringList ids;
-    for (const Long id : gHilited)
-        ids << CStr(id);
-    gHilitedList = ids.join(u',');
-    return std::ssize(gHilited);
+    return Hilited<ContactListFace>();
+}
+
+qsizetype HilitedProperties()
+{
+    return Hilited<PropertyListFace>();
 }

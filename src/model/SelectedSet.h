@@ -3,11 +3,12 @@
 #include "core/Types.h"
 
 #include <list>
+#include <QString>
 #include <unordered_map>
 #include <vector>
 
-/// The IDs of the Selected contacts, in the order of selecting, positions from 1. Finding and removing an ID cost the same at
-/// any size; a walk over all goes through `Ids`.
+/// The IDs of the Selected contacts, in the order of selecting, positions from 1. Finding and removing an ID cost the
+/// same at any size; a walk over all goes through `Ids`.
 class SelectedSet
 {
 public:
@@ -28,6 +29,9 @@ private:
     std::unordered_map<Long, std::list<Long>::iterator> m_index;
 };
 
+/// The Selected contacts in their order, joined by "," for an "in" clause.
+[[nodiscard]] QString SelectedIDs();
+
 /// Adds curContact to gSelected, and marks it in every view that shows it. Nothing happens where it is there already.
 void SelectCurContact();
 /// The mirror: takes curContact out of gSelected, and its marks away.
@@ -38,6 +42,8 @@ void UnselectAll();
 
 /// Counts the highlighted rows of the contact list, and rebuilds gHilited and gHilitedList from them.
 qsizetype HilitedContacts();
+/// The same of the property list.
+qsizetype HilitedProperties();
 
 /// Brings the third panel of the status bar and the Selected Contacts menu in line with gSelected.
 void ShowSelectedCount();

@@ -123,6 +123,15 @@ public:
     virtual void UnloadList() = 0;
 };
 
+/// GridPropList of frmPropertyList. A row's data is the property's ID.
+class PropertyListFace
+{
+public:
+    virtual ~PropertyListFace() = default;
+    /// The IDs of the highlighted rows, from the first.
+    [[nodiscard]] virtual std::vector<Long> Highlighted() const = 0;
+};
+
 /// GridRolodex.
 class RolodexFace
 {
@@ -144,6 +153,11 @@ public:
     /// Redraws each row of this contact, where the list shows contacts.
     virtual void RedrawContact(const Contact& contact) = 0;
     virtual void RemoveContacts(const std::vector<Long>& contactIDs) = 0;
+    /// Removes the rows of these properties, where the list shows properties.
+    virtual void RemoveProperties(const std::vector<Long>& propertyIDs) = 0;
+    /// The properties of all rows, or of the highlighted ones; none where the list shows contacts.
+    [[nodiscard]] virtual std::vector<Long> FoundProperties() const = 0;
+    [[nodiscard]] virtual std::vector<Long> HighlightedProperties() const = 0;
     virtual void ShowHowManyFound() = 0;
 };
 

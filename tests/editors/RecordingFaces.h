@@ -48,7 +48,10 @@ public:
         if (Selected > 0 && Selected <= Rows())
             Data[static_cast<size_t>(Selected) - 1] = contactID;
     }
-    void ShowPropertyCount(Long, int) override {}
+    void ShowPropertyCount(Long contactID, int count) override
+    {
+        Log << QStringLiteral("ShowPropertyCount %1 %2").arg(contactID).arg(count);
+    }
     void ShowAlertIcon() override {}
     void FocusFirstName() override {}
     void ShowChecked(Long, bool) override {}
@@ -91,13 +94,21 @@ class RecordingFound final : public FoundFace
 {
 public:
     std::vector<Long> Redrawn;
+    std::vector<Long> Removed;
+    int Counted = 0;
 
     [[nodiscard]] std::vector<Long> FoundContacts() const override { return {}; }
     [[nodiscard]] std::vector<Long> HighlightedContacts() const override { return {}; }
+    [[nodiscard]] std::vector<Long> FoundProperties() const override { return {}; }
+    [[nodiscard]] std::vector<Long> HighlightedProperties() const override { return {}; }
     void MarkSelected(Long, bool) override {}
     void RedrawContact(const Contact& contact) override;
     void RemoveContacts(const std::vector<Long>&) override {}
-    void ShowHowManyFound() override {}
+    void RemoveProperties(const std::vector<Long>& ids) override
+    {
+        Removed.insert(Removed.end(), ids.begin(), ids.end());
+    }
+    void ShowHowManyFound() override { ++Counted; }
 
 private:
     Face<FoundFace>::Registration m_face{*this};

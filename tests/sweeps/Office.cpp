@@ -28,7 +28,8 @@ void Fill()
           "Insert into Contacts (CategoryID,SubCategoryID,FirstName,LastName) Values (1,1,'Ann','Lee')"_L1,
           "Insert into Contacts (CategoryID,SubCategoryID,FirstName,MI,LastName) Values (1,1,'Bob','M','Ray')"_L1,
           "Insert into Contacts (CategoryID,SubCategoryID,FirstName,LastName) Values (1,1,'Cy','Day')"_L1,
-          "Insert into PropDetail (ContactID,Addr1) Values (1,'1 Elm Street')"_L1})
+          "Insert into PropDetail (ContactID,Addr1) Values (1,'1 Elm Street')"_L1,
+          "Update Contacts set DefaultProperty=1 Where ID=1"_L1})
         FreshDatabase::Execute(QString(statement));
     FreshDatabase::Execute(
         u"Insert into Alerts (ContactID,AlertDate,AlertNote) Values (1,'%1','Call about the house')"_s.arg(
@@ -97,7 +98,8 @@ Grid& Office::OpenList()
 
 const QList<OfficeWindow>& Office::Windows()
 {
-    static const QList<OfficeWindow> windows = DeskWindows() + AlertWindows() + FeedbackWindows();
+    static const QList<OfficeWindow> windows = DeskWindows() + PropertyWindows() + AlertWindows() + LettersWindows() +
+                                               ReportWindows() + FeedbackWindows();
     return windows;
 }
 

@@ -28,6 +28,9 @@ struct OfficeWindow
 [[nodiscard]] QList<OfficeWindow> DeskWindows();
 [[nodiscard]] QList<OfficeWindow> AlertWindows();
 [[nodiscard]] QList<OfficeWindow> FeedbackWindows();
+[[nodiscard]] QList<OfficeWindow> PropertyWindows();
+[[nodiscard]] QList<OfficeWindow> LettersWindows();
+[[nodiscard]] QList<OfficeWindow> ReportWindows();
 
 /// The running program with real windows and real boxes, on a file with this in it:
 ///   1 Buyers   1 First home: 1 Ann Lee with a property and an alert of today, 2 Bob M Ray, 3 Cy Day

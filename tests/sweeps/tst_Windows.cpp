@@ -26,7 +26,8 @@ private Q_SLOTS:
     void TheFocusIsWhereThePersonBegins();
     void TabComesToEveryControl_data();
     void TabComesToEveryControl();
-    void TheSheetOfAContactIsWalkedByTab();
+    void ASheetIsWalkedByTab_data();
+    void ASheetIsWalkedByTab();
     void AScreenReaderHasANameForEveryControl_data();
     void AScreenReaderHasANameForEveryControl();
     void NothingIsCut_data();
@@ -122,19 +123,30 @@ void tst_Windows::TabComesToEveryControl()
     Office().Open(window, [](QWidget& shown) { QCOMPARE(NotReachedByTab(shown).join(u"; "_s), QString()); });
 }
 
-void tst_Windows::TheSheetOfAContactIsWalkedByTab()
+void tst_Windows::ASheetIsWalkedByTab_data()
 {
-    Office().Open(u"contact"_s, [](QWidget& window) {
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<QString>("last");
+    QTest::newRow("contact") << 19 << u"txtFax"_s;
+    QTest::newRow("new property") << 33 << u"txtSoldPrice"_s;
+}
+
+void tst_Windows::ASheetIsWalkedByTab()
+{
+    QFETCH(const int, rows);
+    QFETCH(const QString, last);
+    Office().Open(QString::fromLatin1(QTest::currentDataTag()), [&](QWidget& window) {
         QStringList walked;
         while (!walked.contains(NameOf(QApplication::focusWidget()))) {
             walked << NameOf(QApplication::focusWidget());
             TypeKey(window, Qt::Key_Tab);
         }
-        QCOMPARE(walked.size(), 19);
-        QCOMPARE(walked.last(), u"txtFax"_s);
+        QCOMPARE(walked.size(), rows);
+        QCOMPARE(walked.last(), last);
         // Tab stays on the sheet, so each button must have a key that it tells.
-        for (const QAbstractButton* button : window.findChildren<QAbstractButton*>(QRegularExpression(u"^cmdButton"_s)))
-            QVERIFY2(button->toolTip().contains("Alt+"_L1), qUtf8Printable(button->text()));
+        for (const QAbstractButton* button :
+             window.findChildren<QAbstractButton*>(QRegularExpression(u"^cmdButton|^pic"_s)))
+            QVERIFY2(button->toolTip().contains("Alt+"_L1), qUtf8Printable(button->objectName()));
     });
 }
 

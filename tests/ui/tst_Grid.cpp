@@ -137,6 +137,22 @@ void tst_Grid::rows_that_share_item_data_are_found_from_the_top()
     m_grid->SetRowItemData(1, 7);
     QCOMPARE(m_grid->FindRow(7), 1);
     QCOMPARE(m_grid->FindRow(8), 0);
+    // However often it is asked, the rows are those of now.
+    const auto askOften = [this] {
+        for (int i = 0; i < 40; ++i)
+            static_cast<void>(m_grid->FindRow(7));
+    };
+    askOften();
+    QCOMPARE(m_grid->FindRow(7), 1);
+    m_grid->AddRow(9, 1);
+    QCOMPARE(m_grid->FindRow(7), 2);
+    askOften();
+    m_grid->SetRowItemData(1, 7);
+    QCOMPARE(m_grid->FindRow(7), 1);
+    askOften();
+    m_grid->RemoveRow(1);
+    QCOMPARE(m_grid->FindRow(9), 3);
+    QCOMPARE(m_grid->FindRow(7), 1);
 }
 
 void tst_Grid::cells_outside_the_grid_raise_9()

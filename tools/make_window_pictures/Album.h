@@ -13,6 +13,8 @@ public:
     /// `smallest` has each window drawn in the smallest size that it allows.
     Album(const QDir& folder, QString scheme, bool smallest);
 
+    [[nodiscard]] const QDir& Folder() const { return m_folder; }
+
     /// The window alone.
     void Take(QWidget& window, const QString& name);
     /// The window with a menu or list popped up over it.

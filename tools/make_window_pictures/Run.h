@@ -61,3 +61,6 @@ private:
 void TakeDesk(Run& run);
 void TakeAlerts(Run& run);
 void TakeFeedback(Run& run);
+void TakeProperties(Run& run);
+void TakeLetters(Run& run);
+void TakeReports(Run& run);

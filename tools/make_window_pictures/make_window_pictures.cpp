@@ -43,6 +43,9 @@ void TakeFull(Album& album, const QString& folder)
     TakeDesk(run);
     TakeAlerts(run);
     TakeFeedback(run);
+    TakeProperties(run);
+    TakeLetters(run);
+    TakeReports(run);
 }
 
 void TakeEmpty(Album& album, const QString& folder)

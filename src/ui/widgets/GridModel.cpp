@@ -95,6 +95,7 @@ void GridModel::InsertRow(int before, Long itemData)
     }
     m_order.insert(m_order.begin() + before, slot);
     m_itemData.insert(m_itemData.begin() + before, itemData);
+    ForgetRows();
     if (!quietly) {
         ++m_published;
         endInsertRows();
@@ -111,6 +112,7 @@ void GridModel::RemoveRows(int first, int count)
         FreeSlot(m_order[static_cast<size_t>(row)]);
     m_order.erase(m_order.begin() + first, m_order.begin() + first + count);
     m_itemData.erase(m_itemData.begin() + first, m_itemData.begin() + first + count);
+    ForgetRows();
     m_published -= count;
     endRemoveRows();
 }
@@ -122,6 +124,7 @@ void GridModel::Clear()
     const bool told = m_published > 0;
     m_order.clear();
     m_itemData.clear();
+    ForgetRows();
     m_slots.clear();
     m_free.clear();
     m_looks.clear();
@@ -142,6 +145,28 @@ void GridModel::ClearWithColumns()
 
 int GridModel::Find(Long itemData) const
 {
+    // A single question is a walk; who asks for one row after the other is better served by an index.
+    constexpr int walks = 16;
+    if (m_finds < walks) {
+        ++m_finds;
+        return Walk(itemData);
+    }
+    if (m_rowOf.isEmpty()) {
+        m_rowOf.reserve(std::ssize(m_itemData));
+        for (int row = Rows() - 1; row >= 0; --row)
+            m_rowOf.insert(m_itemData[static_cast<size_t>(row)], row);
+    }
+    return m_rowOf.value(itemData, -1);
+}
+
+void GridModel::ForgetRows()
+{
+    m_finds = 0;
+    m_rowOf.clear();
+}
+
+int GridModel::Walk(Long itemData) const
+{
     const auto found = std::find(m_itemData.begin(), m_itemData.end(), itemData);
     return found == m_itemData.end() ? -1 : static_cast<int>(found - m_itemData.begin());
 }
@@ -161,6 +186,7 @@ void GridModel::Reorder(const std::vector<int>& order)
     }
     m_order.swap(slotsNow);
     m_itemData.swap(itemData);
+    ForgetRows();
     const QModelIndexList before = persistentIndexList();
     QModelIndexList after;
     after.reserve(before.size());

@@ -48,9 +48,13 @@ public:
     void Clear();
     void ClearWithColumns();
     [[nodiscard]] Long ItemData(int row) const { return m_itemData[static_cast<size_t>(row)]; }
-    void SetItemData(int row, Long itemData) { m_itemData[static_cast<size_t>(row)] = itemData; }
-    /// The first row with this item data, -1 where there is none. A walk over packed numbers: 100,000 rows take some 20
-    /// µs.
+    void SetItemData(int row, Long itemData)
+    {
+        m_itemData[static_cast<size_t>(row)] = itemData;
+        ForgetRows();
+    }
+    /// The first row with this item data, -1 where there is none. A walk over packed numbers (100,000 rows take some 20
+    /// µs) at first, a look-up when it is asked again and again.
     [[nodiscard]] int Find(Long itemData) const;
     /// Puts the rows into a new order: row n is then what was row order[n].
     void Reorder(const std::vector<int>& order);
@@ -77,12 +81,17 @@ private:
     [[nodiscard]] quint64 LookKey(int row, int column) const;
     void FreeSlot(quint32 slot);
     void Changed(int row, int column);
+    [[nodiscard]] int Walk(Long itemData) const;
+    /// The rows' item data or places have changed.
+    void ForgetRows();
 
     std::vector<GridColumn> m_columns;
     std::vector<Slot> m_slots;
     std::vector<quint32> m_free;
     std::vector<quint32> m_order;
     std::vector<Long> m_itemData;
+    mutable QHash<Long, int> m_rowOf; ///< empty until Find has been asked often
+    mutable int m_finds = 0;
     QHash<quint64, CellLook> m_looks;
     int m_published = 0;
     bool m_held = false;

@@ -100,11 +100,16 @@ void HoverButton::paintEvent(QPaintEvent*)
     painter.drawText(caption,
                      (m_captionBeside ? Qt::AlignLeft : Qt::AlignHCenter) | Qt::AlignVCenter | Qt::TextShowMnemonic,
                      text());
-    if (hasFocus()) {
-        painter.setPen(QPen(palette().color(QPalette::Active, QPalette::Highlight), 1.5));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 5, 5);
-    }
+    DrawFocus(painter);
+}
+
+void HoverButton::DrawFocus(QPainter& painter) const
+{
+    if (!hasFocus())
+        return;
+    painter.setPen(QPen(palette().color(QPalette::Active, QPalette::Highlight), 1.5));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 5, 5);
 }
 
 void HoverButton::changeEvent(QEvent* event)

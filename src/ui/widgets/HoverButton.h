@@ -53,6 +53,8 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    /// Shows the focus where the button has it.
+    void DrawFocus(QPainter& painter) const;
 
 private:
     [[nodiscard]] QPixmap CurrentPixmap() const;

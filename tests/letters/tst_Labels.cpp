@@ -1,0 +1,221 @@
+#include "letters/Study.h"
+#include "letters/WordProcessor.h"
+#include "support/WordReader.h"
+
+#include "letters/LabelsMerge.h"
+
+#include <algorithm>
+#include <cmath>
+#include <QFile>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+class tst_Labels : public QObject
+{
+    Q_OBJECT
+
+private:
+    static QByteArray Source()
+    {
+        QFile file(AppFile(u"\\Data\\MailLabelSource.txt"_s));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("none");
+    }
+    static QString LabelCaption(const Study& study)
+    {
+        return Control<QPushButton>(study.Main(), u"lblLabelType"_s).text();
+    }
+    /// Chooses a label in the open window, as far as it is named.
+    static void Choose(Form& form, const QString& brand, const QString& number)
+    {
+        for (const auto& [list, text] : {std::pair(u"lstProducts"_s, brand), std::pair(u"lstNumbers"_s, number)}) {
+            auto& lines = Control<QListWidget>(form, list);
+            const QList<QListWidgetItem*> found = lines.findItems(text, Qt::MatchExactly);
+            if (!text.isEmpty() && !found.isEmpty())
+                lines.setCurrentItem(found.first());
+        }
+        ClickOn(form, u"cmdbutton_2"_s);
+    }
+
+    std::unique_ptr<WordProcessor> m_word;
+
+private Q_SLOTS:
+    void init() { m_word = std::make_unique<WordProcessor>(); }
+    void cleanup() { m_word.reset(); }
+
+    void TheChosenLabelIsKept()
+    {
+        Study study;
+        {
+            const WhenFormOpens window(u"frmLabelType"_s, [](Form& form) {
+                QCOMPARE(form.windowTitle(), u"Label Selection"_s);
+                auto& products = Control<QListWidget>(form, u"lstProducts"_s);
+                QStringList brands;
+                for (int row = 0; row < products.count(); ++row)
+                    brands << products.item(row)->text();
+                QCOMPARE(brands, FreshDatabase::Rows(u"Select BrandName from LabelProducts"_s));
+                QCOMPARE(products.selectedItems().size(), 0);
+                QCOMPARE(Control<QListWidget>(form, u"lstNumbers"_s).count(), 0);
+                QVERIFY(!Control<QWidget>(form, u"cmdbutton_2"_s).isEnabled());
+                Choose(form, u"Avery Letter Size"_s, u"5162"_s);
+            });
+            ClickOn(study.Main(), u"lblLabelType"_s);
+        }
+        QCOMPARE(study.Database.TakeStatements().last(),
+                 u"Update Settings set LabelProduct=1, LabelNumber='5162', Clock=0"_s);
+        QCOMPARE(LabelCaption(study), u"5162"_s);
+        study.StartAnew();
+        QCOMPARE(LabelCaption(study), u"5162"_s);
+        const WhenFormOpens window(u"frmLabelType"_s, [](Form& form) {
+            QCOMPARE(Control<QListWidget>(form, u"lstProducts"_s).currentItem()->text(), u"Avery Letter Size"_s);
+            QCOMPARE(Control<QListWidget>(form, u"lstNumbers"_s).currentItem()->text(), u"5162"_s);
+            Choose(form, u"Avery A4"_s, u"none"_s);
+        });
+        ClickOn(study.Main(), u"lblLabelType"_s);
+    }
+
+    void CancelKeepsTheLabel()
+    {
+        Study study;
+        gSettings.LabelProduct = 1;
+        gSettings.LabelNumber = u"5160"_s;
+        const WhenFormOpens window(u"frmLabelType"_s, [](Form& form) {
+            Control<QListWidget>(form, u"lstProducts"_s).setCurrentRow(1);
+            TypeKey(form, Qt::Key_Escape);
+        });
+        ClickOn(study.Main(), u"lblLabelType"_s);
+        QCOMPARE(gSettings.LabelProduct, 1);
+        QVERIFY(study.Database.TakeStatements().filter(u"Update"_s).isEmpty());
+    }
+
+    void TheButtonAsksForALabelFirst_data()
+    {
+        QTest::addColumn<bool>("byKey");
+        QTest::addColumn<bool>("cancelled");
+        for (const bool byKey : {false, true}) {
+            for (const bool cancelled : {false, true})
+                QTest::addRow("%s %s", byKey ? "key" : "mouse", cancelled ? "cancel" : "ok") << byKey << cancelled;
+        }
+    }
+
+    void TheButtonAsksForALabelFirst()
+    {
+        QFETCH(bool, byKey);
+        QFETCH(bool, cancelled);
+        Study study;
+        study.Person.Expect(u"Label Creation Cancelled"_s,
+                            u"You need to have some contacts selected to create labels."_s);
+        const WhenFormOpens window(u"frmLabelType"_s, [cancelled](Form& form) {
+            if (cancelled)
+                ClickOn(form, u"cmdbutton_1"_s);
+            else
+                Choose(form, u"Avery Letter Size"_s, u"5160"_s);
+        });
+        if (byKey) {
+            Control<QWidget>(study.Main(), u"cmdbutton_8"_s).setFocus();
+            TypeKey(study.Main(), Qt::Key_Space);
+        } else {
+            ClickOn(study.Main(), u"cmdbutton_8"_s);
+        }
+        QCOMPARE(study.Person.LastBox().Picture, Icon::Information);
+        QVERIFY(!Control<QAbstractButton>(study.Main(), u"cmdbutton_8"_s).isDown());
+        QCOMPARE(gSettings.LabelProduct == 0, cancelled);
+        QCOMPARE(m_word->Opened(), QStringList());
+    }
+
+    void TheSourceHoldsTheAddresses()
+    {
+        Study study;
+        Study::Select({2, 1});
+        static_cast<void>(study.Database.TakeStatements());
+        const QString path = AppFile(u"\\Data\\MailLabelSource.txt"_s);
+        QCOMPARE(CreateLabelSourceFile(path), path);
+        QCOMPARE(study.Database.TakeStatements().first(), u"SELECT FirstName, LastName, MI, MailAddr1, MailAddr2, "
+                                                          u"MailCity, MailState, MailZip, MailZip4  FROM Contacts "
+                                                          "Where Contacts.ID in (2,1) "_s);
+        QCOMPARE(Source(), QByteArray("Name\tAddress1\tAddress2\tCity\tState\tZip\tZip4\r\n"
+                                      "Ann Lee\t100 Oak St\tApt 2\tReno\t, NV\t89501\t-1234\r\n"
+                                      "Bob M Ray\t7 Pine Rd\t\tReno\t \t89502\t\r\n"));
+    }
+
+    void TheLabelsLieOnTheirSheet_data()
+    {
+        QTest::addColumn<QString>("brand");
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<QSizeF>("size");
+        QTest::addColumn<QPointF>("first");
+        QTest::addColumn<qreal>("pitch");
+        QTest::addRow("30 a sheet") << u"Avery Letter Size"_s << u"5160"_s << QSizeF(215.9, 279.4)
+                                    << QPointF(4.78, 12.7) << 69.85;
+        QTest::addRow("14 a sheet") << u"Avery Letter Size"_s << u"5162"_s << QSizeF(215.9, 279.4)
+                                    << QPointF(3.96, 21.17) << 106.36;
+    }
+
+    void TheLabelsLieOnTheirSheet()
+    {
+        QFETCH(QString, brand);
+        QFETCH(QString, number);
+        Study study;
+        Study::Select({1, 2});
+        const WhenFormOpens window(u"frmLabelType"_s, [&](Form& form) { Choose(form, brand, number); });
+        ClickOn(study.Main(), u"cmdbutton_8"_s);
+        QCOMPARE(m_word->Opened().size(), 1);
+        QCOMPARE(PackageFaults(m_word->Opened()[0]), QStringList());
+        const QList<QList<Page>> documents = RenderDocuments(m_word->Opened());
+        QCOMPARE(documents.size(), 1);
+        QCOMPARE(documents[0].size(), 1);
+        const Page& page = documents[0][0];
+        QFETCH(QSizeF, size);
+        QVERIFY(std::abs(page.Size.width() - size.width()) < 0.5 && std::abs(page.Size.height() - size.height()) < 0.5);
+        const auto place = [&page](const QString& text) {
+            const auto word = std::ranges::find(page.Words, text, &PageWord::Text);
+            return word != page.Words.end() ? word->Place : QRectF();
+        };
+        QFETCH(QPointF, first);
+        QFETCH(qreal, pitch);
+        const QRectF ann = place(u"Ann"_s);
+        const QRectF bob = place(u"Bob"_s);
+        QVERIFY(ann.left() > first.x() && ann.top() > first.y());
+        QVERIFY(std::abs(bob.left() - ann.left() - pitch) < 0.5);
+        // The third line of Bob's label is empty, and stays.
+        QVERIFY(place(u"89502"_s).top() - bob.top() > 2 * (place(u"Pine"_s).top() - bob.top()) + 1);
+        QVERIFY(page.Lines.join(u' ').contains("NV  89501-1234"_L1) ||
+                page.Lines.join(u' ').contains("NV 89501-1234"_L1));
+    }
+
+    void AStateThatIsNullEndsTheRun()
+    {
+        Study study;
+        Study::Select({1, 3});
+        study.Person.Expect(u"frmMain CreateLabelSourceFile Error #94"_s, u"Invalid use of Null"_s);
+        LabelsMerge();
+        QCOMPARE(m_word->Opened(), QStringList());
+    }
+
+    void ALabelThatNobodyKnowsIsRefused_data()
+    {
+        QTest::addColumn<int>("product");
+        QTest::addColumn<QString>("number");
+        QTest::addRow("no number") << 1 << QString();
+        QTest::addRow("unknown number") << 1 << u"0815"_s;
+        QTest::addRow("unknown product") << 999 << u"5160"_s;
+        QTest::addRow("another maker's number") << 2 << u"5160"_s;
+    }
+
+    void ALabelThatNobodyKnowsIsRefused()
+    {
+        QFETCH(int, product);
+        QFETCH(QString, number);
+        Study study;
+        Study::Select({1});
+        gSettings.LabelProduct = static_cast<Integer>(product);
+        gSettings.LabelNumber = number;
+        study.Person.ExpectReport(u"Label Generation Error 5843"_s);
+        ClickOn(study.Main(), u"cmdbutton_8"_s);
+        QCOMPARE(m_word->Opened(), QStringList());
+        QVERIFY(!study.Person.HourGlassIsOn());
+    }
+};
+
+QTEST_MAIN(tst_Labels)
+#include "tst_Labels.moc"
