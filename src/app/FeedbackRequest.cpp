@@ -15,7 +15,7 @@ QString RefusalOf(QNetworkReply::NetworkError error, int status, int mostMillise
     case QNetworkReply::TemporaryNetworkFailureError:
     case QNetworkReply::NetworkSessionFailedError:
     case QNetworkReply::UnknownNetworkError:
-        return u"I could not send your comments because I did not find a way to the Internet."_s;
+        return u"I could not send your comments because I did not find the other end, or no way to the Internet."_s;
     case QNetworkReply::ConnectionRefusedError:
     case QNetworkReply::RemoteHostClosedError:
         return u"I could not send your comments because nobody takes them at the other end just now."_s;
@@ -46,20 +46,28 @@ QUrl FeedbackUrl(const QUrl& address, const Feedback& feedback)
 
 FeedbackRequest::FeedbackRequest(int mostMilliseconds, QObject* parent)
     : QObject(parent), m_mostMilliseconds(mostMilliseconds)
-{}
+{
+    m_patience.setSingleShot(true);
+    connect(&m_patience, &QTimer::timeout, this, [this] { m_reply->abort(); });
+}
 
 void FeedbackRequest::Send(const QUrl& address, const Feedback& feedback)
 {
     Stop();
     QNetworkRequest request(FeedbackUrl(address, feedback));
-    request.setTransferTimeout(m_mostMilliseconds);
+    // What the toolkit would say of this computer by itself.
+    request.setRawHeader("Accept-Language", "en");
+    request.setRawHeader("Accept-Encoding", "identity");
+    request.setHeader(QNetworkRequest::UserAgentHeader, u"Orvantine"_s);
     request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
     m_reply = m_network.get(request);
     connect(m_reply, &QNetworkReply::finished, this, &FeedbackRequest::Finish);
+    m_patience.start(m_mostMilliseconds);
 }
 
 void FeedbackRequest::Stop()
 {
+    m_patience.stop();
     QNetworkReply* reply = std::exchange(m_reply, nullptr);
     if (reply == nullptr)
         return;
@@ -70,6 +78,7 @@ void FeedbackRequest::Stop()
 
 void FeedbackRequest::Finish()
 {
+    m_patience.stop();
     QNetworkReply* reply = std::exchange(m_reply, nullptr);
     reply->deleteLater();
     const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();

@@ -5,6 +5,7 @@
 #include <QNetworkAccessManager>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 #include <QUrl>
 
 class QNetworkReply;
@@ -27,7 +28,7 @@ class FeedbackRequest : public QObject
     Q_OBJECT
 
 public:
-    /// Waits for the answer at most so long.
+    /// Waits at most so long until the whole answer is there.
     explicit FeedbackRequest(int mostMilliseconds, QObject* parent = nullptr);
 
     void Send(const QUrl& address, const Feedback& feedback);
@@ -44,5 +45,6 @@ private:
 
     QNetworkAccessManager m_network;
     QNetworkReply* m_reply = nullptr;
+    QTimer m_patience;
     int m_mostMilliseconds;
 };

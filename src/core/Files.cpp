@@ -12,11 +12,9 @@ namespace {
 
 [[noreturn]] void RaiseFault(const QFileDevice* file)
 {
-    // Neither has an error of its own in the toolkit: no more room for this person, or for a file of this size.
-    for (const int full : {EDQUOT, EFBIG}) {
-        if (file != nullptr && file->errorString() == qt_error_string(full))
-            throw RunTimeError(ErrorNumber::DiskFull);
-    }
+    // The toolkit forgets why a write came to its end early, and has no error for a person's or a file's own limit.
+    if (errno == ENOSPC || errno == EDQUOT || errno == EFBIG)
+        throw RunTimeError(ErrorNumber::DiskFull);
     switch (file != nullptr ? file->error() : QFileDevice::WriteError) {
     case QFileDevice::ResourceError:
         throw RunTimeError(ErrorNumber::DiskFull);
@@ -53,6 +51,7 @@ void Sync(int handle)
 
 void OpenFile(QFile& file, QIODevice::OpenMode mode, bool secret)
 {
+    errno = 0;
     const bool opened = secret ? file.open(mode, QFileDevice::ReadOwner | QFileDevice::WriteOwner) : file.open(mode);
     if (!opened)
         RaiseNotOpened(file, mode);
@@ -60,12 +59,14 @@ void OpenFile(QFile& file, QIODevice::OpenMode mode, bool secret)
 
 void WriteBytes(QIODevice& device, QByteArrayView bytes)
 {
+    errno = 0;
     if (device.write(bytes.data(), bytes.size()) != bytes.size())
         RaiseFault(qobject_cast<QFileDevice*>(&device));
 }
 
 void CloseWritten(QFile& file)
 {
+    errno = 0;
     if (!file.flush())
         RaiseFault(&file);
     file.close();

@@ -2,6 +2,7 @@
 #include "support/ScriptedUser.h"
 #include "support/Windows.h"
 
+#include <algorithm>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -10,13 +11,16 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTest>
+#include <QTimer>
 #include <QUrlQuery>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A web server on this machine that says one thing to everybody, or nothing at all.
+const QByteArray dripping = "drip";
+
+/// A web server on this machine that says one thing to everybody, or nothing at all, or an answer that never ends.
 class Server : public QTcpServer
 {
 public:
@@ -27,9 +31,16 @@ public:
             QTcpSocket* socket = nextPendingConnection();
             connect(socket, &QTcpSocket::readyRead, this, [this, socket, answer] {
                 const QByteArray request = socket->readAll();
-                Requests << request.left(request.indexOf("\r\n"));
+                Requests << request;
                 if (answer.isEmpty())
                     return;
+                if (answer == dripping) {
+                    socket->write("HTTP/1.1 200 OK\r\n");
+                    auto* drip = new QTimer(socket);
+                    connect(drip, &QTimer::timeout, socket, [socket] { socket->write("X-More: to come\r\n"); });
+                    drip->start(100);
+                    return;
+                }
                 socket->write(answer);
                 socket->disconnectFromHost();
             });
@@ -102,12 +113,21 @@ void tst_CallHome::SendsOneRequestOnTheLastPage()
     ClickOn(form, u"cmdNext"_s);
     QTRY_VERIFY(form.IsUnloaded());
     QCOMPARE(server.Requests.size(), 1);
-    const QList<QByteArray> words = server.Requests[0].split(' ');
+    const QByteArray head = server.Requests[0].left(server.Requests[0].indexOf("\r\n"));
+    const QList<QByteArray> words = head.split(' ');
     QCOMPARE(words[0], "GET");
     const QUrlQuery query(QUrl::fromEncoded(words[1]));
     QCOMPARE(query.queryItemValue(u"name"_s, QUrl::FullyDecoded), u"Ann & Bob"_s);
     QCOMPARE(query.queryItemValue(u"email"_s, QUrl::FullyDecoded), u"ann@example.org"_s);
     QCOMPARE(query.queryItemValue(u"comments"_s, QUrl::FullyDecoded), u"1 + 1 = 2%\nÄ?#"_s);
+    // Nothing beside it tells of this computer.
+    QList<QByteArray> others = server.Requests[0].mid(head.size()).trimmed().split('\n');
+    for (QByteArray& line : others)
+        line = line.trimmed();
+    std::ranges::sort(others);
+    QCOMPARE(others, (QList<QByteArray>{"Accept-Encoding: identity", "Accept-Language: en", "Connection: Keep-Alive",
+                                        "Host: 127.0.0.1:" + QByteArray::number(server.serverPort()),
+                                        "User-Agent: Orvantine"}));
 }
 
 void tst_CallHome::ARefusalIsToldAndNothingIsLost_data()
@@ -125,8 +145,11 @@ void tst_CallHome::ARefusalIsToldAndNothingIsLost_data()
     QTest::newRow("nobody there")
         << QByteArray() << u"http://127.0.0.1:1/"_s
         << u"I could not send your comments because nobody takes them at the other end just now."_s;
-    QTest::newRow("offline") << QByteArray() << u"http://orvantine.invalid/"_s
-                             << u"I could not send your comments because I did not find a way to the Internet."_s;
+    QTest::newRow("offline")
+        << QByteArray() << u"http://orvantine.invalid/"_s
+        << u"I could not send your comments because I did not find the other end, or no way to the Internet."_s;
+    QTest::newRow("without end") << dripping << u""_s
+                                 << u"I could not send your comments because no answer came within 1 seconds."_s;
     QTest::newRow("slow") << QByteArray() << u""_s
                           << u"I could not send your comments because no answer came within 1 seconds."_s;
 }

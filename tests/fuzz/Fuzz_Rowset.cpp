@@ -37,7 +37,10 @@ void ComesBack(const uint8_t* data, size_t size)
             expected[i] = QChar::ReplacementCharacter;
     }
     // Bytes that are no text at all may be told by more or fewer signs than the toolkit makes of them.
-    const auto isWhole = !expected.contains(QChar::ReplacementCharacter);
+    // So may a pair of half characters in the form of two: the store never writes that.
+    const QByteArray stored = ToStored(TextOf(data, size));
+    const bool isWhole = !expected.contains(QChar::ReplacementCharacter) &&
+                         stored == QByteArrayView(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
     Demand(!isWhole || back == expected, "a text comes back as it went in");
 }
 

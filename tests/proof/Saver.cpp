@@ -1,5 +1,6 @@
 // The whole program without its person: it adds contacts and writes their notes through the real windows, one after the
-// other, until it is killed. After each save that the program called done it says so on standard output.
+// other, until it is killed; or makes or restores a backup. After each save that the program called done it says so on
+// standard output.
 
 #include "app/Composition.h"
 #include "app/frmSplash.h"
@@ -9,6 +10,7 @@
 #include "organise/CategoryTree.h"
 #include "organise/CategoryTreeView.h"
 #include "support/Windows.h"
+#include "ui/widgets/CommonDialog.h"
 #include "ui/widgets/UserWindows.h"
 
 #include "Saved.h"
@@ -31,12 +33,18 @@ void Say(const QString& line)
         std::_Exit(EXIT_FAILURE);
 }
 
-/// Nobody answers here: a box ends the run, and its words say why.
+/// Nobody answers here: a box but for the end of a transfer ends the run, and its words say why.
 class NoPerson final : public User
 {
 public:
-    Answer MsgBox(const QString& text, Buttons, Icon, const QString& title) override
+    Answer MsgBox(const QString& text, Buttons buttons, Icon, const QString& title) override
     {
+        if (buttons == Buttons::YesNo)
+            return Answer::Yes;
+        if (title == "Database Restored"_L1 || title == "Database Backed upDone"_L1) {
+            Say(u"transfer done"_s);
+            return Answer::Ok;
+        }
         Say(u"! "_s + title + u": "_s + text);
         std::_Exit(EXIT_FAILURE);
     }
@@ -82,9 +90,19 @@ void WriteNotes(int number, NoPerson& person)
     person.SayWhenDone(u"Notes Have Been Saved"_s, u"notes %1"_s.arg(number));
 }
 
+void Transfer(const QString& direction, const QString& file)
+{
+    CommonDialog::SetSource([&file](const CommonDialog&, bool) { return file; });
+    Say(u"transfer begun"_s);
+    if (direction == "backup"_L1)
+        gOpeners.Backup();
+    else
+        gOpeners.Restore();
+}
+
 } // namespace
 
-/// FOLDER FIRST-NUMBER
+/// FOLDER FIRST-NUMBER, or FOLDER backup|restore FILE
 int main(int argc, char** argv)
 {
     // Without a window manager there is much to warn of, and nobody to read it.
@@ -100,6 +118,10 @@ int main(int argc, char** argv)
     splash.Show();
     if (!QTest::qWaitFor([&] { return splash.Program() != nullptr && splash.Program()->Main().isVisible(); }, 20'000))
         return EXIT_FAILURE;
+    if (arguments.size() > 3) {
+        Transfer(arguments[2], arguments[3]);
+        return EXIT_SUCCESS;
+    }
     CategoryTree& tree = splash.Program()->Tree();
     tree.FindInTree(u"S1"_s);
     tree.trvCategories_NodeClick(Control<CategoryTreeView>(splash.Program()->Main(), u"trvCategories"_s).currentItem());

@@ -24,11 +24,13 @@ class tst_SuddenDeath : public QObject
 
 private Q_SLOTS:
     void WhatWasSavedSurvivesAKill();
+    void AKilledRestoreLeavesAWholeFile();
 
 private:
     void RunAndKill(const FreshDatabase& fresh);
     void ReadLine(const QByteArray& line);
     void CheckFile(const FreshDatabase& fresh);
+    void CheckRestored(const FreshDatabase& fresh, bool whole);
 
     QRandomGenerator m_random{20261122};
     int m_contacts = 0;  ///< how many contacts were reported as saved, or found written
@@ -115,6 +117,103 @@ void tst_SuddenDeath::WhatWasSavedSurvivesAKill()
     }
     qInfo("%d saves, %d kills, %d of them in the middle of a save", m_saves, kills, m_cutSaves);
     QVERIFY(kills > 1);
+}
+
+namespace {
+
+constexpr int restoredContacts = 2500;
+
+/// Contacts with an alert each, and a letter.
+void FillForABackup()
+{
+    gConn.ShareCommits([] {
+        gConn.Execute(u"Insert into Categories (Description) Values ('Buyers')"_s);
+        gConn.Execute(u"Insert into SubCategories (Description,ParentID) Values ('First home',1)"_s);
+        for (int number = 1; number <= restoredContacts; ++number) {
+            gConn.Execute(
+                u"Insert into Contacts (CategoryID,SubCategoryID,FirstName,MI,LastName,MailAddr1,Notes) Values "
+                "(1,1,'%1','','%2','%3','%1 %3')"_s.arg(Saved::First(number), Saved::Last(number),
+                                                        Saved::Address(number)));
+            gConn.Execute(u"Insert into Alerts (ContactID,AlertDate,AlertNote) Values (%1,'1/5/2026','%2')"_s.arg(
+                QString::number(number), Saved::First(number)));
+        }
+        gConn.Execute(u"Insert into FormLetters (FormName,FormText) values ('Hello','Dear')"_s);
+    });
+}
+
+void WaitForLine(QProcess& program, const QByteArray& line)
+{
+    while (!program.canReadLine() && program.waitForReadyRead(60'000)) {
+    }
+    QCOMPARE(program.readLine().trimmed(), line);
+}
+
+} // namespace
+
+/// The rows come in their order, and so does what is left of them: nothing is half there, nothing is there before what
+/// it hangs on.
+void tst_SuddenDeath::CheckRestored(const FreshDatabase& fresh, bool whole)
+{
+    gConn.Open(u"Dbq="_s + fresh.DatabaseFile() + u";Password=kostrevy48"_s);
+    const QStringList contacts = FreshDatabase::Rows(u"Select FirstName,MailAddr1,Notes from Contacts"_s);
+    const qsizetype alerts = FreshDatabase::Rows(u"Select ID from Alerts"_s).size();
+    const qsizetype letters = FreshDatabase::Rows(u"Select ID from FormLetters"_s).size();
+    gConn.Close();
+    QCOMPARE(Database(fresh.DatabaseFile()).Value("PRAGMA integrity_check"), u"ok"_s);
+    for (int number = 1; number <= contacts.size(); ++number) {
+        const QString first = Saved::First(number);
+        const QString address = Saved::Address(number);
+        QCOMPARE(contacts[number - 1], QStringList({first, address, first + u' ' + address}).join(u'|'));
+    }
+    // The wipe takes the contacts first.
+    const bool isWiping = contacts.isEmpty();
+    QVERIFY(isWiping || alerts == 0 || contacts.size() == restoredContacts);
+    QVERIFY(isWiping || letters == 0 || alerts == restoredContacts);
+    if (whole)
+        QCOMPARE(letters, 1);
+    m_cutSaves += contacts.size() % restoredContacts != 0 || alerts % restoredContacts != 0 ? 1 : 0;
+}
+
+void tst_SuddenDeath::AKilledRestoreLeavesAWholeFile()
+{
+    const FreshDatabase fresh;
+    FillForABackup();
+    gConn.Close();
+    const QString backup = fresh.Folder() + u"/backup.xml"_s;
+    const auto start = [&](QProcess& program, const QString& direction) {
+        program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        program.start(QStringLiteral(SAVER), {fresh.Folder(), direction, backup});
+        WaitForLine(program, "transfer begun");
+    };
+    qint64 microseconds = 0;
+    for (const auto& direction : {u"backup"_s, u"restore"_s}) {
+        QProcess program;
+        start(program, direction);
+        QElapsedTimer time;
+        time.start();
+        WaitForLine(program, "transfer done");
+        microseconds = time.nsecsElapsed() / 1000;
+        QVERIFY(program.waitForFinished());
+    }
+    CheckRestored(fresh, true);
+    m_cutSaves = 0;
+    QElapsedTimer time;
+    time.start();
+    int kills = 0;
+    for (; kills < 12 && time.elapsed() < 25'000 && !QTest::currentTestFailed(); ++kills) {
+        QProcess program;
+        start(program, u"restore"_s);
+        std::this_thread::sleep_for(std::chrono::microseconds(m_random.bounded(microseconds)));
+        program.kill();
+        QVERIFY(program.waitForFinished());
+        CheckRestored(fresh, false);
+    }
+    qInfo("%d kills, %d of them between the rows", kills, m_cutSaves);
+    QProcess last;
+    start(last, u"restore"_s);
+    WaitForLine(last, "transfer done");
+    QVERIFY(last.waitForFinished());
+    CheckRestored(fresh, true);
 }
 
 QTEST_APPLESS_MAIN(tst_SuddenDeath)

@@ -20,6 +20,7 @@ private Q_SLOTS:
     void cleanup() { CommonDialog::SetSource({}); }
     void the_default_extension_data();
     void the_default_extension();
+    void a_file_that_is_there_is_opened_as_it_was_chosen();
     void a_cancel_leaves_the_name_or_raises();
     void the_window_gives_what_is_typed();
     void the_window_can_be_cancelled();
@@ -47,6 +48,20 @@ void tst_CommonDialog::the_default_extension()
     dialog.ShowSave(nullptr);
     QTEST(dialog.FileTitle(), "title");
     QVERIFY(dialog.FileName.startsWith(m_folder.path()));
+}
+
+void tst_CommonDialog::a_file_that_is_there_is_opened_as_it_was_chosen()
+{
+    QFile file(m_folder.filePath(u"Monday"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    CommonDialog::SetSource([](const CommonDialog&, bool) { return u"Monday"_s; });
+    CommonDialog dialog;
+    dialog.InitDir = m_folder.path();
+    dialog.DefaultExt = u"ocm"_s;
+    dialog.ShowOpen(nullptr);
+    QCOMPARE(dialog.FileTitle(), u"Monday"_s);
+    dialog.ShowSave(nullptr);
+    QCOMPARE(dialog.FileTitle(), u"Monday.ocm"_s);
 }
 
 void tst_CommonDialog::a_cancel_leaves_the_name_or_raises()

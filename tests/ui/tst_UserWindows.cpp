@@ -172,6 +172,10 @@ void tst_UserWindows::an_hourglass_counts_and_makes_way_for_a_box()
     QVERIFY(QApplication::overrideCursor() == nullptr);
     user.HourGlass(false);
     QVERIFY(QApplication::overrideCursor() == nullptr);
+    user.HourGlass(true);
+    user.HourGlass(true);
+    user.NoHourGlass();
+    QVERIFY(QApplication::overrideCursor() == nullptr);
 }
 
 void tst_UserWindows::the_status_bar_hears_messages_and_bare_counts()
