@@ -1,5 +1,6 @@
 #include "SmallBackup.h"
 
+#include "core/Files.h"
 #include "core/RunTimeError.h"
 #include "support/FullDisk.h"
 #include "transfer/AppendFileBytes.h"
@@ -48,6 +49,7 @@ private Q_SLOTS:
     void ATargetThatIsNoFile();
     void ATargetThatComesMeanwhileIsAskedAbout();
     void AFailedReadIsNoEnd();
+    void AFileThatNeedsNoWaitingIsSafe();
     void TheFileThatWasChosenIsRead();
     void AHugeFileIsRefused_data();
     void AHugeFileIsRefused();
@@ -194,6 +196,20 @@ void tst_TransferFaults::AFailedReadIsNoEnd()
     agency.Name(unreadable);
     agency.Person.ExpectReport(u"ImportData Error #75"_s);
     ImportData(true);
+}
+
+void tst_TransferFaults::AFileThatNeedsNoWaitingIsSafe()
+{
+    const Agency agency(Agency::File::Empty);
+    SyncFile(agency.Database.DatabaseFile());
+    // The system can't wait for this one.
+    SyncFile(u"/dev/null"_s);
+    try {
+        SyncFile(agency.FileOf(u"none"_s));
+        QFAIL("a file that is not there is safe");
+    } catch (const RunTimeError& error) {
+        QCOMPARE(error.Number(), ErrorNumber::FileNotFound);
+    }
 }
 
 void tst_TransferFaults::TheFileThatWasChosenIsRead()
