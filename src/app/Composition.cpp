@@ -9,6 +9,7 @@
 #include "organise/CategoryTree.h"
 #include "organise/frmList.h"
 #include "organise/Rolodex.h"
+#include "search/SearchPage.h"
 #include "ui/frame/Menus.h"
 #include "ui/widgets/UserWindows.h"
 
@@ -21,6 +22,7 @@ Composition::Composition() : m_tree(new CategoryTree(m_main)), m_rolodex(new Rol
     m_main.AddContactsPanel(m_tree, 1);
     m_main.AddContactsPanel(m_rolodex, 1);
     m_main.AddContactsPanel(m_alerts, 1);
+    m_main.SetPage(frmMain::Tab::Search, new SearchPage(m_main));
     PlugOpeners();
     PlugSelectedMenu();
 }
@@ -53,6 +55,10 @@ void Composition::PlugSelectedMenu()
     menus.PlugOpener(u"mnuSetNewAlert"_s, &m_main, gOpeners.SetNewAlert);
     menus.PlugOpener(u"mnuSelectedToRolodex"_s, &m_main, gOpeners.SelectedToRolodex);
     menus.PlugOpener(u"mnuCreateWord"_s, &m_main, gOpeners.WordFileOfSelected);
+    menus.PlugOpener(u"mnuSendFoundContactToWord"_s, &m_main, gOpeners.WordFileOfFoundContacts);
+    menus.PlugOpener(u"mnuHilitedContactsWord"_s, &m_main, gOpeners.WordFileOfHilitedContacts);
+    menus.PlugOpener(u"mnuCreatePropWordFile"_s, &m_main, gOpeners.WordFileOfFoundProperties);
+    menus.PlugOpener(u"mnuHilitedPropertiesWord"_s, &m_main, gOpeners.WordFileOfHilitedProperties);
     menus.PlugOpener(u"mnuExportSelectedContacts"_s, &m_main, gOpeners.ExportSelected);
     menus.PlugOpener(u"mnuMaintenanceImport"_s, &m_main, gOpeners.Import);
     menus.PlugOpener(u"mnuBackup"_s, &m_main, gOpeners.Backup);

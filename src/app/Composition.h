@@ -11,6 +11,7 @@ class Rolodex;
 ///   CategoryTree  -> first tab, mnuCategory
 ///   Rolodex       -> first tab
 ///   AlertPanels   -> first tab, mnuAlertGrid
+///   SearchPage    -> second tab, mnuFoundContacts, mnuFoundProperties and their popups
 ///   frmList, frmContact, frmNotes, frmAlerts, ManageAlerts, SetNewAlert_Click  -> openers
 ///
 /// What is not plugged in stands disabled in the menus.

@@ -23,6 +23,10 @@ struct Openers
     /// frmCreateWordFile in its contact mode for the listed contacts.
     std::function<void()> WordFileOfListed;
     std::function<void()> WordFileOfSelected;
+    std::function<void()> WordFileOfFoundContacts;
+    std::function<void()> WordFileOfHilitedContacts;
+    std::function<void()> WordFileOfFoundProperties;
+    std::function<void()> WordFileOfHilitedProperties;
     std::function<void()> ExportSelected;
     std::function<void()> SelectedToRolodex;
     std::function<void()> Import;

@@ -135,6 +135,10 @@ public:
     /// Redraws each row of this contact, where the list shows contacts.
     virtual void RedrawContact(const Contact& contact) = 0;
     virtual void RemoveContacts(const std::vector<Long>& contactIDs) = 0;
+    /// The properties of all rows, or of the highlighted ones; none where the list shows contacts.
+    [[nodiscard]] virtual std::vector<Long> FoundProperties() const = 0;
+    [[nodiscard]] virtual std::vector<Long> HighlightedProperties() const = 0;
+    virtual void RemoveProperties(const std::vector<Long>& propertyIDs) = 0;
     virtual void ShowHowManyFound() = 0;
 };
 

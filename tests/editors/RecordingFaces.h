@@ -93,6 +93,9 @@ public:
     void MarkSelected(Long, bool) override {}
     void RedrawContact(const Contact& contact) override;
     void RemoveContacts(const std::vector<Long>&) override {}
+    [[nodiscard]] std::vector<Long> FoundProperties() const override { return {}; }
+    [[nodiscard]] std::vector<Long> HighlightedProperties() const override { return {}; }
+    void RemoveProperties(const std::vector<Long>&) override {}
     void ShowHowManyFound() override {}
 
 private:
