@@ -99,11 +99,10 @@ void CriteriaPanel::BuildLayout()
     joinGroup->addButton(m_or);
 
     auto* buttonLine = new QHBoxLayout;
-    auto* buttons = new HoverButtonArray(*this, *buttonLine,
-                                         {{Clear, u"Clear"_s, u"Clear"_s},
-                                          {Search, u"Search"_s, u"Search"_s},
-                                          {ClearAll, u"ClearAll"_s, u"ClearAll"_s}},
-                                         u"cmdbutton"_s);
+    auto* buttons = new HoverButtonArray(
+        *this, *buttonLine,
+        {{Clear, u"Clear"_s, u"Clear"_s}, {Search, u"Search"_s, u"Search"_s}, {ClearAll, u"ClearAll"_s, u"ClearAll"_s}},
+        u"cmdbutton"_s);
     buttonLine->addStretch();
     // The row that Clear empties stays the one that the person was in.
     buttons->SetTakesFocus(false);

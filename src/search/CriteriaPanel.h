@@ -11,8 +11,8 @@ class QBoxLayout;
 class QCheckBox;
 class QRadioButton;
 
-/// What is searched for: the mode, the criteria grid and the buttons below it. The text in the grid's second column is the
-/// criterion; there is no other record of it.
+/// What is searched for: the mode, the criteria grid and the buttons below it. The text in the grid's second column is
+/// the criterion; there is no other record of it.
 ///
 ///   (o) Contacts ( ) Properties          ( ) And (o) Or
 ///   Search Criteria                      [ ] Case sensitive search

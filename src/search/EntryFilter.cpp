@@ -45,6 +45,8 @@ bool EntryFilter::SwallowsKey(const QKeyEvent& event)
 
 void EntryFilter::KeepAccepted()
 {
+    if (std::exchange(m_typing, false))
+        return;
     const FieldText field = Field();
     FieldText kept;
     kept.SelStart = field.SelStart;
@@ -54,8 +56,7 @@ void EntryFilter::KeepAccepted()
         else if (i < field.SelStart)
             --kept.SelStart;
     }
-    const bool typed = std::exchange(m_typing, false);
-    if (!typed && m_rules.AfterKey)
+    if (m_rules.AfterKey)
         kept = m_rules.AfterKey(Key::Shift, kept);
     if (kept != field)
         SetField(kept);

@@ -19,18 +19,18 @@ struct FieldName
 };
 
 constexpr std::array fieldNames{
-    FieldName{"FirstName"_L1, &Contact::FirstName},   FieldName{"MI"_L1, &Contact::MI},
-    FieldName{"LastName"_L1, &Contact::LastName},     FieldName{"Company"_L1, &Contact::Company},
-    FieldName{"Email"_L1, &Contact::Email},           FieldName{"Salutation"_L1, &Contact::Salutation},
-    FieldName{"Spouse"_L1, &Contact::Spouse},         FieldName{"ReferredBy"_L1, &Contact::ReferredBy},
-    FieldName{"Notes"_L1, &Contact::Notes},           FieldName{"Addr1"_L1, &Contact::MailAddr1},
-    FieldName{"MailAddr1"_L1, &Contact::MailAddr1},   FieldName{"Addr2"_L1, &Contact::MailAddr2},
-    FieldName{"MailAddr2"_L1, &Contact::MailAddr2},   FieldName{"City"_L1, &Contact::MailCity},
-    FieldName{"MailCity"_L1, &Contact::MailCity},     FieldName{"Zip"_L1, &Contact::MailZip},
-    FieldName{"MailZip"_L1, &Contact::MailZip},       FieldName{"Zip4"_L1, &Contact::MailZip4},
-    FieldName{"MailZip4"_L1, &Contact::MailZip4},     FieldName{"HomePhone"_L1, &Contact::HomePhone},
-    FieldName{"WorkPhone"_L1, &Contact::WorkPhone},   FieldName{"Ext"_L1, &Contact::Ext},
-    FieldName{"Cell"_L1, &Contact::Cell},             FieldName{"Fax"_L1, &Contact::Fax},
+    FieldName{"FirstName"_L1, &Contact::FirstName}, FieldName{"MI"_L1, &Contact::MI},
+    FieldName{"LastName"_L1, &Contact::LastName},   FieldName{"Company"_L1, &Contact::Company},
+    FieldName{"Email"_L1, &Contact::Email},         FieldName{"Salutation"_L1, &Contact::Salutation},
+    FieldName{"Spouse"_L1, &Contact::Spouse},       FieldName{"ReferredBy"_L1, &Contact::ReferredBy},
+    FieldName{"Notes"_L1, &Contact::Notes},         FieldName{"Addr1"_L1, &Contact::MailAddr1},
+    FieldName{"MailAddr1"_L1, &Contact::MailAddr1}, FieldName{"Addr2"_L1, &Contact::MailAddr2},
+    FieldName{"MailAddr2"_L1, &Contact::MailAddr2}, FieldName{"City"_L1, &Contact::MailCity},
+    FieldName{"MailCity"_L1, &Contact::MailCity},   FieldName{"Zip"_L1, &Contact::MailZip},
+    FieldName{"MailZip"_L1, &Contact::MailZip},     FieldName{"Zip4"_L1, &Contact::MailZip4},
+    FieldName{"MailZip4"_L1, &Contact::MailZip4},   FieldName{"HomePhone"_L1, &Contact::HomePhone},
+    FieldName{"WorkPhone"_L1, &Contact::WorkPhone}, FieldName{"Ext"_L1, &Contact::Ext},
+    FieldName{"Cell"_L1, &Contact::Cell},           FieldName{"Fax"_L1, &Contact::Fax},
 };
 
 constexpr auto stateName = "cbostate"_L1;

@@ -152,8 +152,8 @@ std::vector<GridColumn> GridColumnsOf(const Columns& columns)
 {
     std::vector<GridColumn> list;
     for (const auto& column : columns)
-        list.push_back({.Key = column.Key, .Header = column.Header, .Visible = !column.Header.isEmpty(),
-                        .Sort = column.Sort});
+        list.push_back(
+            {.Key = column.Key, .Header = column.Header, .Visible = !column.Header.isEmpty(), .Sort = column.Sort});
     return list;
 }
 

@@ -38,9 +38,8 @@ void FoundList::ConnectGrid()
     connect(m_grid, &Grid::DblClick, this, &FoundList::ViewFoundItem);
     connect(m_grid, &Grid::KeyDown, this, &FoundList::GridFound_KeyDown);
     connect(m_grid, &Grid::MouseUp, this, &FoundList::GridFound_MouseUp);
-    connect(m_grid, &Grid::MouseMove, this, [this] {
-        m_grid->viewport()->setCursor(Count() > 0 ? Qt::PointingHandCursor : Qt::ArrowCursor);
-    });
+    connect(m_grid, &Grid::MouseMove, this,
+            [this] { m_grid->viewport()->setCursor(Count() > 0 ? Qt::PointingHandCursor : Qt::ArrowCursor); });
 }
 
 void FoundList::PlugMenus()
@@ -157,8 +156,8 @@ void FoundList::mnuHilitedContacts_Click()
 
 void FoundList::SelectHilited(bool select)
 {
-    const QString tag =
-        select ? u"frmMain mnuSelectHilitedContacts_Click Error #"_s : u"frmMain mnuUnselectHilitedContacts_Click Error #"_s;
+    const QString tag = select ? u"frmMain mnuSelectHilitedContacts_Click Error #"_s
+                               : u"frmMain mnuUnselectHilitedContacts_Click Error #"_s;
     Trap(tag, Icon::Critical, [&] {
         const HourGlass hourGlass;
         for (const Long id : HighlightedContacts()) {

@@ -47,8 +47,7 @@ RangeForm::RangeForm(const RangeWords& words)
     m_rows->setColumnStretch(entryColumn, 1);
     auto* line = new QHBoxLayout;
     line->addStretch();
-    auto* buttons =
-        new HoverButtonArray(*this, *line, {{Ok, u"Ok"_s, u"Ok"_s}, {Cancel, u"Cancel"_s, u"Cancel"_s}});
+    auto* buttons = new HoverButtonArray(*this, *line, {{Ok, u"Ok"_s, u"Ok"_s}, {Cancel, u"Cancel"_s, u"Cancel"_s}});
     connect(buttons, &HoverButtonArray::Click, this, [this](int index) { cmdbutton_Click(index); });
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 16, 16, 8);

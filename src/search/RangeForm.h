@@ -11,12 +11,12 @@ class QLineEdit;
 /// What a window that asks for a condition and one or two values shows.
 struct RangeWords
 {
-    QString Name;          ///< the window's
+    QString Name; ///< the window's
     QStringList Conditions;
     QString RangeCondition; ///< the one of two values
-    QString Between;       ///< stands between the two values
-    QString EntryName;     ///< the entries are named so, with "1" and "2" behind it
-    QString EntryCaption;  ///< what an entry holds, in words
+    QString Between;        ///< stands between the two values
+    QString EntryName;      ///< the entries are named so, with "1" and "2" behind it
+    QString EntryCaption;   ///< what an entry holds, in words
 };
 
 /// Base of the windows that ask for a date or money criterion. The answer stands in gReturnValue, "" where the person

@@ -4,8 +4,8 @@
 #include <QStringMatcher>
 #include <string>
 
-/// Looks for one text in many, each time as InStr does: with or without regard to letter case. A search asks it once for
-/// each record and filled row, so what can be known of the text alone is worked out once.
+/// Looks for one text in many, each time as InStr does: with or without regard to letter case. A search asks it once
+/// for each record and filled row, so what can be known of the text alone is worked out once.
 class TextFinder
 {
 public:

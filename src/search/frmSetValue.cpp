@@ -49,8 +49,7 @@ frmSetValue::frmSetValue(const QString& caption, ValueInput input, const QString
     AddLists();
     auto* line = new QHBoxLayout;
     line->addStretch();
-    auto* buttons =
-        new HoverButtonArray(*this, *line, {{Ok, u"Ok"_s, u"Ok"_s}, {Cancel, u"Cancel"_s, u"Cancel"_s}});
+    auto* buttons = new HoverButtonArray(*this, *line, {{Ok, u"Ok"_s, u"Ok"_s}, {Cancel, u"Cancel"_s, u"Cancel"_s}});
     connect(buttons, &HoverButtonArray::Click, this, &frmSetValue::cmdbutton_Click);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 16, 16, 8);

@@ -10,8 +10,8 @@ class QLineEdit;
 class QStackedLayout;
 
 /// Asks for the value of a criterion. One window holds all inputs; the row's is the one that is seen. The answer stands
-/// in gReturnValue, "" where the person cancelled or chose nothing. Enter anywhere in the window is Ok; Esc and the close
-/// box are Cancel.
+/// in gReturnValue, "" where the person cancelled or chose nothing. Enter anywhere in the window is Ok; Esc and the
+/// close box are Cancel.
 class frmSetValue : public Form
 {
     Q_OBJECT

@@ -22,8 +22,8 @@
 
 /// The program on the morning of November 22, 2026, with the search tab in front, on a small file:
 ///   Buyers   First home: 1 Ann Lee (12 Elm St, FL), 2 Bob M Ray (9 Oak Ave, PA), 3 Cy Day
-///   Ann: 1 MLS A-1, 1 Elm St, her default property, 250,000, listed 11/20/2026; 2 at 2 Elm St, 90,000, listed 12/1/2026
-///   Bob: 3 MLS B-3, 3 Oak Ave, never listed
+///   Ann: 1 MLS A-1, 1 Elm St, her default property, 250,000, listed 11/20/2026; 2 at 2 Elm St, 90,000, listed
+///   12/1/2026 Bob: 3 MLS B-3, 3 Oak Ave, never listed
 class SearchDesk
 {
 public:
@@ -32,7 +32,8 @@ public:
         Clock::SetSource([] { return QDateTime(QDate(2026, 11, 22), QTime(9, 0)); });
         Run("Insert into Categories (Description) Values ('Buyers')");
         Run("Insert into SubCategories (Description,ParentID) Values ('First home',1)");
-        Run("Insert into Contacts (CategoryID,SubCategoryID,FirstName,MI,LastName,MailAddr1,MailState,HomePhone,MailZip,"
+        Run("Insert into Contacts "
+            "(CategoryID,SubCategoryID,FirstName,MI,LastName,MailAddr1,MailState,HomePhone,MailZip,"
             "MailZip4,DefaultProperty) Values (1,1,'Ann','','Lee','12 Elm St',10,'(215) 555-0100','19103','2204',1)");
         Run("Insert into Contacts (CategoryID,SubCategoryID,FirstName,MI,LastName,MailAddr1,MailState) "
             "Values (1,1,'Bob','M','Ray','9 Oak Ave',44)");

@@ -2,6 +2,7 @@
 #include "core/Convert.h"
 #include "core/Strings.h"
 #include "model/Contact.h"
+#include "model/Main.h"
 #include "model/PropDetail.h"
 #include "search/CheckCriterion.h"
 #include "search/CriteriaRows.h"
@@ -9,7 +10,6 @@
 #include "search/FindInProps.h"
 #include "search/SearchWalk.h"
 #include "search/TextFinder.h"
-#include "model/Main.h"
 #include "support/FreshDatabase.h"
 #include "support/ScriptedUser.h"
 
@@ -284,7 +284,8 @@ void tst_SearchRules::TheSearchReadsItsRowsInItsOrder()
 {
     // Each row once, but for the two that are never read; and every name is one that the tests know.
     const ScriptedUser person;
-    for (const auto& [mode, rows, unread] : {std::tuple(SearchMode::Contacts, 19, 6), {SearchMode::Properties, 37, 26}}) {
+    for (const auto& [mode, rows, unread] :
+         {std::tuple(SearchMode::Contacts, 19, 6), {SearchMode::Properties, 37, 26}}) {
         QCOMPARE(std::ssize(CriteriaRows(mode)), rows);
         QList<int> missing;
         for (int row = 1; row <= rows; ++row)

@@ -60,7 +60,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
         return column.Header.isEmpty() ? column.Key : column.Header;
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(pictured ? Qt::Alignment(Qt::AlignCenter)
-                                             : column.HeaderAlignment.value_or(column.Alignment));
+                                            : column.HeaderAlignment.value_or(column.Alignment));
     default:
         return {};
     }
