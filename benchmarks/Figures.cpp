@@ -11,6 +11,9 @@ constexpr double loadLimit = 0.7;
 constexpr double memoryLimit = 4096; // bytes for a contact
 constexpr double startLimit = 2.5;
 constexpr double newContactLimit = 4; // from the smallest size to the largest
+constexpr double searchLimit = 1;
+constexpr double listLimit = 2;
+constexpr double cellLimit = 64;      // bytes for a cell of the found list
 constexpr double growthLimit = 1.3;   // times the growth of the yardstick
 
 constexpr auto program = "program";
@@ -81,7 +84,11 @@ std::vector<Figures::Line> Figures::Lines(const std::vector<int>& sizes) const
     };
     constexpr std::array titles{Title{"Load", "Loading", loadLimit}, Title{"Start", "Start", startLimit},
                                 Title{"FillList", "Filling the list", 0}, Title{"OpenSubcategory", "Opening a 20th", 0},
-                                Title{"DeleteHighlighted", "Deleting a 20th", 0}};
+                                Title{"DeleteHighlighted", "Deleting a 20th", 0},
+                                Title{"SearchContacts", "Searching contacts", searchLimit},
+                                Title{"SearchProperties", "Searching properties", searchLimit},
+                                Title{"ListContacts", "Listing contacts", listLimit},
+                                Title{"ListProperties", "Listing properties", listLimit}};
     const int first = sizes.front();
     const int last = sizes.back();
     const int before = sizes[sizes.size() - 2];
@@ -101,6 +108,13 @@ std::vector<Figures::Line> Figures::Lines(const std::vector<int>& sizes) const
         const double theirs = At("Memory", yardstick, contacts);
         lines.push_back({Text("Memory of a contact, %d", contacts), Text("%.0f bytes", ours),
                          Text("%.0f bytes", theirs), ours / 1024, memoryLimit / 1024});
+    }
+    for (const int contacts : sizes) {
+        for (const char* what : {"Contacts", "Properties"}) {
+            const double bytes = At(std::string("ListMemory") + what, program, contacts);
+            lines.push_back({Text("Memory of a cell, %s, %d", what, contacts), Text("%.0f bytes", bytes), "", bytes,
+                             cellLimit});
+        }
     }
     return lines;
 }

@@ -34,6 +34,7 @@ int main(int argc, char** argv)
         RegisterMemory(contacts);
         RegisterNewContact(contacts);
         RegisterLists(contacts);
+        RegisterSearch(contacts);
     }
     Figures figures;
     benchmark::RunSpecifiedBenchmarks(&figures);

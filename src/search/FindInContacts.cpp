@@ -56,6 +56,11 @@ bool FindInContacts::operator()(const Contact& contact) const
     return Trap(u"frmMain FindInContacts Error #"_s, Icon::Critical, [&] { return Test(contact); });
 }
 
+const QString* FindInContacts::TextOf(const Contact& contact) const
+{
+    return m_field != nullptr ? &(contact.*m_field) : nullptr;
+}
+
 bool FindInContacts::Test(const Contact& contact) const
 {
     if (m_field != nullptr)

@@ -16,6 +16,9 @@ public:
     /// Reports what fails, and tells of a field name that it does not know; both give false.
     [[nodiscard]] bool operator()(const Contact& contact) const;
 
+    /// The text that is looked into; null where the test looks into none.
+    [[nodiscard]] const QString* TextOf(const Contact& contact) const;
+
 private:
     [[nodiscard]] bool Test(const Contact& contact) const;
 

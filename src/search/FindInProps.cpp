@@ -84,7 +84,18 @@ bool FindInProps::Test(const PropDetail& property) const
         MsgBox(m_fieldName + u" is not configured"_s, Buttons::Ok, Icon::None, {});
         return false;
     }
-    const QString text = PropertyText(property, m_field, PropertyForm::Plain);
+    if (const QString* stored = TextOf(property))
+        return TestText(*stored);
+    return TestText(PropertyText(property, m_field, PropertyForm::Plain));
+}
+
+const QString* FindInProps::TextOf(const PropDetail& property) const
+{
+    return m_test == PropertyTest::Unknown ? nullptr : PropertyStoredText(property, m_field);
+}
+
+bool FindInProps::TestText(const QString& text) const
+{
     switch (m_test) {
     case PropertyTest::Contains:
         return m_finder.IsIn(text);

@@ -24,8 +24,12 @@ public:
     /// Reports what fails, and tells of a field name that it does not know; both give false.
     [[nodiscard]] bool operator()(const PropDetail& property) const;
 
+    /// The text that is looked into; null where the test looks at no text.
+    [[nodiscard]] const QString* TextOf(const PropDetail& property) const;
+
 private:
     [[nodiscard]] bool Test(const PropDetail& property) const;
+    [[nodiscard]] bool TestText(const QString& text) const;
     [[nodiscard]] bool IsPast(const QString& date) const;
 
     QString m_value;

@@ -6,6 +6,8 @@
 #include "search/FindInContacts.h"
 #include "search/FindInProps.h"
 
+#include <array>
+
 namespace {
 
 /// The tests of the filled rows, in the order of the search.
@@ -32,26 +34,70 @@ bool IsTaken(const Record& record, const std::vector<Test>& tests, bool isAnd)
     return isAnd || tests.empty();
 }
 
+/// Tests records in batches. Records and their texts lie anywhere in memory; asking for those of a whole batch before
+/// the first is looked at has the memory fetch them side by side, where a plain walk would wait for each in turn: at
+/// 100,000 contacts that waiting is most of a search.
+template <typename Test, typename Record>
+class Batch
+{
+public:
+    Batch(const SearchCriteria& criteria, SearchMode mode, const std::function<void(const Record&)>& take)
+        : m_tests(TestsOf<Test>(criteria, mode)), m_isAnd(criteria.And), m_take(take)
+    {}
+
+    void Add(const Record& record)
+    {
+        if (!m_tests.empty())
+            __builtin_prefetch(m_tests.front().TextOf(record));
+        m_records[m_count++] = &record;
+        if (m_count == m_records.size())
+            Flush();
+    }
+
+    /// To be called at the end.
+    void Flush()
+    {
+        for (size_t i = 0; i < m_count && !m_tests.empty(); ++i) {
+            if (const QString* text = m_tests.front().TextOf(*m_records[i]))
+                __builtin_prefetch(text->constData());
+        }
+        for (size_t i = 0; i < m_count; ++i) {
+            if (IsTaken(*m_records[i], m_tests, m_isAnd))
+                m_take(*m_records[i]);
+        }
+        m_count = 0;
+    }
+
+private:
+    std::vector<Test> m_tests;
+    bool m_isAnd;
+    const std::function<void(const Record&)>& m_take;
+    std::array<const Record*, 32> m_records{};
+    size_t m_count = 0;
+};
+
 } // namespace
 
 void FindContacts(const SearchCriteria& criteria, const std::function<void(const Contact&)>& take)
 {
-    const auto tests = TestsOf<FindInContacts>(criteria, SearchMode::Contacts);
-    gContacts.ForEach([&](Long, const std::shared_ptr<Contact>& contact) {
-        if (contact && IsTaken(*contact, tests, criteria.And))
-            take(*contact);
+    Batch<FindInContacts, Contact> batch(criteria, SearchMode::Contacts, take);
+    gContacts.ForEach([&batch](Long, const std::shared_ptr<Contact>& contact) {
+        if (contact)
+            batch.Add(*contact);
     });
+    batch.Flush();
 }
 
 void FindProperties(const SearchCriteria& criteria, const std::function<void(const PropDetail&)>& take)
 {
-    const auto tests = TestsOf<FindInProps>(criteria, SearchMode::Properties);
-    gContacts.ForEach([&](Long, const std::shared_ptr<Contact>& contact) {
+    Batch<FindInProps, PropDetail> batch(criteria, SearchMode::Properties, take);
+    gContacts.ForEach([&batch](Long, const std::shared_ptr<Contact>& contact) {
         if (!contact)
             return;
-        contact->Properties.ForEach([&](Long, const std::shared_ptr<PropDetail>& property) {
-            if (property && IsTaken(*property, tests, criteria.And))
-                take(*property);
+        contact->Properties.ForEach([&batch](Long, const std::shared_ptr<PropDetail>& property) {
+            if (property)
+                batch.Add(*property);
         });
     });
+    batch.Flush();
 }

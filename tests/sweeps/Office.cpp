@@ -5,6 +5,7 @@
 #include "model/Main.h"
 #include "organise/CategoryTree.h"
 #include "organise/CategoryTreeView.h"
+#include "sweeps/SearchWindows.h"
 #include "ui/frame/Menus.h"
 #include "ui/widgets/Forms.h"
 #include "ui/widgets/Grid.h"
@@ -105,11 +106,12 @@ Grid& Office::OpenList()
 
 QStringList Office::WindowNames()
 {
-    return {u"splash"_s,       u"main window"_s,  u"main window with selected contacts"_s,
-            u"contact list"_s, u"new contact"_s,  u"contact"_s,
-            u"notes"_s,        u"move contact"_s, u"move category"_s,
-            u"question"_s,     u"line of text"_s, u"question of notes"_s,
-            u"error"_s};
+    return QStringList{u"splash"_s,       u"main window"_s,  u"main window with selected contacts"_s,
+                       u"contact list"_s, u"new contact"_s,  u"contact"_s,
+                       u"notes"_s,        u"move contact"_s, u"move category"_s,
+                       u"question"_s,     u"line of text"_s, u"question of notes"_s,
+                       u"error"_s} +
+           SearchWindowNames();
 }
 
 void Office::Open(const QString& window, const Look& look)
@@ -118,7 +120,9 @@ void Office::Open(const QString& window, const Look& look)
         const WhenFormOpens form(name, [&look](Form& shown) { look(shown); });
         open();
     };
-    if (window == "main window"_L1) {
+    if (SearchWindowNames().contains(window)) {
+        OpenSearchWindow(Main(), window, look);
+    } else if (window == "main window"_L1) {
         look(Main());
     } else if (window == "main window with selected contacts"_L1) {
         OpenList().selectAll();

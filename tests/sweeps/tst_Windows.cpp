@@ -101,7 +101,12 @@ void tst_Windows::TheFocusIsWhereThePersonBegins_data()
                                                         {"line of text", "txtInput"},
                                                         {"question", "Yes"},
                                                         {"question of notes", "Yes"},
-                                                        {"error", "OK"}};
+                                                        {"error", "OK"},
+                                                        {"search", "GridSearch"},
+                                                        {"value of a criterion", "txtLongString"},
+                                                        {"list of a criterion", "cboPropType"},
+                                                        {"date of a criterion", "txtDate1"},
+                                                        {"amount of a criterion", "txtAmount1"}};
     for (const auto& [window, control] : rows)
         QTest::newRow(window) << QString::fromLatin1(control);
 }

@@ -11,6 +11,7 @@
 #include "core/adodb/Connection.h"
 #include "core/Clock.h"
 #include "make_window_pictures/Album.h"
+#include "make_window_pictures/SearchPictures.h"
 #include "make_window_pictures/Stage.h"
 #include "model/Contact.h"
 #include "model/Main.h"
@@ -181,6 +182,7 @@ void Run::Full()
     Notes();
     Choosers();
     Boxes();
+    TakeSearch(m_album, Main());
     Desk();
 }
 
