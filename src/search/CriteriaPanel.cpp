@@ -68,6 +68,18 @@ QRadioButton* CriteriaPanel::AddOption(QBoxLayout& line, const QString& name, co
     return option;
 }
 
+void CriteriaPanel::Group(std::initializer_list<QRadioButton*> options)
+{
+    auto* group = new QButtonGroup(this);
+    for (QRadioButton* option : options) {
+        group->addButton(option);
+        option->setFocusPolicy(Qt::ClickFocus);
+        // Tab comes to the chosen one, and the arrow keys choose.
+        connect(option, &QRadioButton::toggled, option,
+                [option](bool on) { option->setFocusPolicy(on ? Qt::StrongFocus : Qt::ClickFocus); });
+    }
+}
+
 void CriteriaPanel::BuildLayout()
 {
     auto* modes = new QHBoxLayout;
@@ -91,12 +103,8 @@ void CriteriaPanel::BuildLayout()
     m_and = AddOption(*joins, u"optAndOr_0"_s, u"And"_s);
     m_or = AddOption(*joins, u"optAndOr_1"_s, u"Or"_s);
     joins->addStretch();
-    auto* modeGroup = new QButtonGroup(this);
-    auto* joinGroup = new QButtonGroup(this);
-    modeGroup->addButton(m_contacts);
-    modeGroup->addButton(m_properties);
-    joinGroup->addButton(m_and);
-    joinGroup->addButton(m_or);
+    Group({m_contacts, m_properties});
+    Group({m_and, m_or});
 
     auto* buttonLine = new QHBoxLayout;
     auto* buttons = new HoverButtonArray(

@@ -45,6 +45,8 @@ Q_SIGNALS:
 
 private:
     QRadioButton* AddOption(QBoxLayout& line, const QString& name, const QString& caption);
+    /// Of these options one is chosen.
+    void Group(std::initializer_list<QRadioButton*> options);
     void BuildLayout();
     void LoadContactSearchCols();
     void LoadPropSearchCols();

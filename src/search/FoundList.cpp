@@ -54,6 +54,7 @@ void FoundList::BuildLayout()
     QFont font = m_lblFound->font();
     font.setBold(true);
     m_lblFound->setFont(font);
+    m_lblFound->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_lblFound->setBuddy(m_grid);
     auto* heading = new QHBoxLayout;
     heading->setSpacing(Theme::Spacing);
@@ -80,24 +81,24 @@ bool FoundList::ShowsProperties() const
 
 void FoundList::LoadContactFoundCols()
 {
-    Trap(u"frmMain LoadContactFoundCols Error #"_s, Icon::Critical, [this] {
-        if (m_grid->Columns() > 0 && m_grid->Column(1).Key != "Name"_L1)
-            m_grid->ClearWithColumns();
-        if (m_grid->Columns() == 0)
-            for (const GridColumn& column : FoundContactColumns())
-                m_grid->AddColumn(column);
-    });
+    Trap(u"frmMain LoadContactFoundCols Error #"_s, Icon::Critical,
+         [this] { MakeColumns(FoundContactColumns(), 1, u"Name"); });
 }
 
 void FoundList::LoadPropFoundCols()
 {
-    Trap(u"frmMain LoadPropFoundCols Error #"_s, Icon::Critical, [this] {
-        if (m_grid->Columns() > 0 && m_grid->Column(2).Key != "ContactName"_L1)
-            m_grid->ClearWithColumns();
-        if (m_grid->Columns() == 0)
-            for (const GridColumn& column : FoundPropertyColumns())
-                m_grid->AddColumn(column);
-    });
+    Trap(u"frmMain LoadPropFoundCols Error #"_s, Icon::Critical,
+         [this] { MakeColumns(FoundPropertyColumns(), 2, u"ContactName"); });
+}
+
+void FoundList::MakeColumns(const std::vector<GridColumn>& columns, int known, QStringView key)
+{
+    if (m_grid->Columns() > 0 && m_grid->Column(known).Key != key)
+        m_grid->ClearWithColumns();
+    if (m_grid->Columns() > 0)
+        return;
+    for (const GridColumn& column : columns)
+        m_grid->AddColumn(column);
 }
 
 // A search.

@@ -8,9 +8,11 @@
 
 class CriteriaPanel;
 class frmMain;
+class FoundPropertyTexts;
 class Grid;
 class PropDetail;
 class QLabel;
+struct GridColumn;
 enum class SearchMode;
 
 /// The list that a search fills, with its count and the menus of what can be done with what was found. It holds copies:
@@ -60,6 +62,8 @@ private:
     [[nodiscard]] bool ShowsProperties() const;
     void LoadContactFoundCols();
     void LoadPropFoundCols();
+    /// Makes the columns, unless the column `known` has this key already.
+    void MakeColumns(const std::vector<GridColumn>& columns, int known, QStringView key);
     void AddContactToFoundGrid(int row, const Contact& contact);
     void AddPropToFoundGrid(int row, const PropDetail& property);
     void AddBogusContactToFoundGrid();
@@ -109,5 +113,5 @@ private:
     QLabel* m_lblFound;
     Grid* m_grid;
     /// Works out the cells of one search's properties.
-    std::unique_ptr<class FoundPropertyTexts> m_texts;
+    std::unique_ptr<FoundPropertyTexts> m_texts;
 };

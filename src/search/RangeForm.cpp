@@ -80,6 +80,11 @@ bool RangeForm::IsRange() const
     return Condition() == m_rangeCondition;
 }
 
+QString RangeForm::OneValue(const QString& text) const
+{
+    return (Condition() == "Equal To"_L1 ? u"="_s : Condition()) + u' ' + text;
+}
+
 void RangeForm::cboCondition_Click()
 {
     m_between->setVisible(IsRange());

@@ -33,6 +33,8 @@ protected:
 
     [[nodiscard]] QString Condition() const;
     [[nodiscard]] bool IsRange() const;
+    /// The criterion of any other condition: "= ", or the condition's own words, and the value.
+    [[nodiscard]] QString OneValue(const QString& text) const;
     [[nodiscard]] QLineEdit& First() const { return *m_first; }
     [[nodiscard]] QLineEdit& Second() const { return *m_second; }
     [[nodiscard]] QGridLayout& Rows() const { return *m_rows; }

@@ -54,8 +54,7 @@ void frmCurrency::OKClick()
         }
         const QString amount = AmountText(First());
         if (!IsRange()) {
-            const QString head = Condition() == "Equal To"_L1 ? u"= "_s : Condition() + u' ';
-            AnswerWith(head + amount);
+            AnswerWith(OneValue(amount));
             return;
         }
         // The two are compared as texts, which is meant: "9" to "10" is refused, "10" to "9" is not.

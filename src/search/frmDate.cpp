@@ -89,8 +89,7 @@ void frmDate::OkClick()
     Trap(u"frmDate OkClick Error #"_s, Icon::Critical, [this] {
         const QString first = DateText(First());
         if (!IsRange()) {
-            const QString head = Condition() == "Equal To"_L1 ? u"= "_s : Condition() + u' ';
-            AnswerWith(head + first);
+            AnswerWith(OneValue(first));
             return;
         }
         const QString second = DateText(Second());

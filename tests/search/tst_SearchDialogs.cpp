@@ -52,6 +52,16 @@ private:
     {
         Control<QComboBox>(form, u"cboCondition"_s).setCurrentText(condition);
     }
+    static void Answer(const QWidget& form, const QString& condition, const QString& first, const QString& second)
+    {
+        ChooseCondition(form, condition);
+        TypeText(form, first);
+        if (!second.isEmpty()) {
+            TypeKey(form, Qt::Key_Tab);
+            TypeText(form, second);
+        }
+        TypeKey(form, Qt::Key_Return);
+    }
     template <typename Window>
     static void Work(const char* name, const std::function<void(Form& form)>& script)
     {
@@ -175,13 +185,7 @@ void tst_SearchDialogs::DatesAsTexts()
     Work<frmDate>("frmDate", [&](Form& form) {
         QCOMPARE(form.windowTitle(), u" Search Criteria"_s);
         QVERIFY(Edit(form, "txtDate1").hasFocus());
-        ChooseCondition(form, condition);
-        TypeText(form, first);
-        if (!second.isEmpty()) {
-            TypeKey(form, Qt::Key_Tab);
-            TypeText(form, second);
-        }
-        TypeKey(form, Qt::Key_Return);
+        Answer(form, condition, first, second);
     });
     QTEST(gReturnValue, "answer");
 }
@@ -275,13 +279,7 @@ void tst_SearchDialogs::AmountsAsTexts()
     const ScriptedUser person;
     Work<frmCurrency>("frmCurrency", [&](Form& form) {
         QCOMPARE(form.windowTitle(), u" Search Criteria"_s);
-        ChooseCondition(form, condition);
-        TypeText(form, first);
-        if (!second.isEmpty()) {
-            TypeKey(form, Qt::Key_Tab);
-            TypeText(form, second);
-        }
-        TypeKey(form, Qt::Key_Return);
+        Answer(form, condition, first, second);
     });
     QTEST(gReturnValue, "answer");
 }
