@@ -60,6 +60,7 @@ void FoundList::BuildLayout()
     heading->setSpacing(Theme::Spacing);
     heading->addWidget(m_lblFound, 1);
     auto* buttons = new HoverButtonArray(*this, *heading, {{clearButton, u"Clear"_s, u"Clear"_s}}, u"cmdbutton"_s);
+    buttons->Button(clearButton)->SetCaptionBeside(true);
     connect(buttons, &HoverButtonArray::Click, this, [this] {
         ShoWait(ShowsProperties() ? u"Property Search"_s : u"Contact search"_s);
         Clear();
