@@ -16,3 +16,6 @@ void RegisterLists(int contacts);
 /// A search over all contacts and over all properties, without the listing, against the sqlite3 shell; the listing of all
 /// that there is, against plain rows; and the memory of a cell of that list.
 void RegisterSearch(int contacts);
+/// Both panels filled with the alerts of all contacts, and one more alert added to a full one, against one pass that
+/// formats the same cells.
+void RegisterAlerts(int contacts);

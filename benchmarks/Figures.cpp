@@ -7,14 +7,9 @@
 
 namespace {
 
-constexpr double loadLimit = 0.7;
-constexpr double memoryLimit = 4096; // bytes for a contact
-constexpr double startLimit = 2.5;
+constexpr double memoryLimit = 4096;  // bytes for a contact
+constexpr double cellLimit = 64;      // bytes for a cell of the found list, beside the texts of the records
 constexpr double newContactLimit = 4; // from the smallest size to the largest
-constexpr double searchLimit = 1;
-constexpr double listLimit = 2;
-constexpr double cellLimit = 64;      // bytes for a cell of the found list
-constexpr double growthLimit = 1.3;   // times the growth of the yardstick
 
 constexpr auto program = "program";
 constexpr auto yardstick = "yardstick";
@@ -26,7 +21,19 @@ std::string Text(const char* format, Values... values)
     return {text.data(), static_cast<size_t>(std::snprintf(text.data(), text.size(), format, values...))};
 }
 
+std::vector<Figure>& AddedFigures()
+{
+    static std::vector<Figure> figures;
+    return figures;
+}
+
 } // namespace
+
+void AddFigure(const Figure& figure)
+{
+    if (std::ranges::find(AddedFigures(), figure.Name, &Figure::Name) == AddedFigures().end())
+        AddedFigures().push_back(figure);
+}
 
 void Figures::ReportRuns(const std::vector<Run>& runs)
 {
@@ -35,16 +42,21 @@ void Figures::ReportRuns(const std::vector<Run>& runs)
                          [](const Run& run) { return run.run_type == Run::RT_Iteration; });
     ConsoleReporter::ReportRuns(single);
     for (const Run& run : single) {
-        if (run.error_occurred)
-            continue;
         const auto bytes = run.counters.find("bytes");
-        const double measured = bytes != run.counters.end()      ? static_cast<double>(bytes->second)
+        const double measured = run.error_occurred               ? NAN
+                                : bytes != run.counters.end()    ? static_cast<double>(bytes->second)
                                 : run.run_name.time_type.empty() ? run.GetAdjustedCPUTime()
                                                                  : run.GetAdjustedRealTime();
         const std::string name = run.run_name.function_name + "/" + run.run_name.args;
         const auto [place, isNew] = m_measured.emplace(name, measured);
         place->second = isNew ? measured : std::min(place->second, measured);
     }
+}
+
+bool Figures::WasRun(const std::string& figure) const
+{
+    const auto first = m_measured.lower_bound(figure + "/");
+    return first != m_measured.end() && first->first.starts_with(figure + "/");
 }
 
 double Figures::At(const std::string& figure, const char* side, int contacts) const
@@ -58,65 +70,75 @@ double Figures::Growth(const std::string& figure, const char* side, int from, in
     return At(figure, side, to) / At(figure, side, from);
 }
 
-Figures::Line Figures::Beside(const std::string& title, const std::string& figure, int contacts, double limit) const
+Figures::Line Figures::Beside(const Figure& figure, int contacts) const
 {
-    const double ours = At(figure, program, contacts);
-    const double theirs = At(figure, yardstick, contacts);
-    return {Text("%s, %d", title.c_str(), contacts), Text("%.2f ms", ours), Text("%.2f ms", theirs), ours / theirs,
-            limit};
+    const double ours = At(figure.Name, program, contacts);
+    const double theirs = At(figure.Name, yardstick, contacts);
+    return {Text("%s, %d", figure.Words.c_str(), contacts), Text("%.2f ms", ours), Text("%.2f ms", theirs),
+            ours / theirs, contacts >= figure.LimitFrom ? figure.Limit : 0};
 }
 
-Figures::Line Figures::GrowthBeside(const std::string& title, const std::string& figure, int from, int to) const
+Figures::Line Figures::GrowthBeside(const Figure& figure, int from, int to) const
 {
-    const double ours = Growth(figure, program, from, to);
-    const double theirs = Growth(figure, yardstick, from, to);
-    return {Text("%s, %d to %d", title.c_str(), from, to), Text("%.2f times", ours), Text("%.2f times", theirs),
-            ours / theirs, growthLimit};
+    const double ours = Growth(figure.Name, program, from, to);
+    const double theirs = Growth(figure.Name, yardstick, from, to);
+    return {Text("%s, %d to %d", figure.Words.c_str(), from, to), Text("%.2f times", ours), Text("%.2f times", theirs),
+            ours / theirs, figure.GrowthLimit};
 }
 
 std::vector<Figures::Line> Figures::Lines(const std::vector<int>& sizes) const
 {
-    struct Title
-    {
-        const char* Figure;
-        const char* Words;
-        double Limit;
-    };
-    constexpr std::array titles{Title{"Load", "Loading", loadLimit}, Title{"Start", "Start", startLimit},
-                                Title{"FillList", "Filling the list", 0}, Title{"OpenSubcategory", "Opening a 20th", 0},
-                                Title{"DeleteHighlighted", "Deleting a 20th", 0},
-                                Title{"SearchContacts", "Searching contacts", searchLimit},
-                                Title{"SearchProperties", "Searching properties", searchLimit},
-                                Title{"ListContacts", "Listing contacts", listLimit},
-                                Title{"ListProperties", "Listing properties", listLimit}};
-    const int first = sizes.front();
     const int last = sizes.back();
     const int before = sizes[sizes.size() - 2];
     std::vector<Line> lines;
-    for (const Title& title : titles) {
+    for (const Figure& figure : AddedFigures()) {
+        if (!WasRun(figure.Name))
+            continue;
         for (const int contacts : sizes)
-            lines.push_back(Beside(title.Words, title.Figure, contacts, title.Limit));
-        lines.push_back(GrowthBeside(title.Words, title.Figure, before, last));
+            lines.push_back(Beside(figure, contacts));
+        if (figure.GrowthLimit > 0)
+            lines.push_back(GrowthBeside(figure, before, last));
     }
+    if (WasRun("NewContact"))
+        AddNewContact(lines, sizes);
+    if (WasRun("Memory"))
+        AddMemory(lines, sizes);
+    for (const char* list : {"Contacts", "Properties"})
+        AddCells(lines, sizes, list);
+    return lines;
+}
+
+void Figures::AddNewContact(std::vector<Line>& lines, const std::vector<int>& sizes) const
+{
+    const int first = sizes.front();
+    const int last = sizes.back();
+    const Figure newContact{"NewContact", "One new contact"};
     for (const int contacts : sizes)
-        lines.push_back(Beside("One new contact", "NewContact", contacts, 0));
+        lines.push_back(Beside(newContact, contacts));
     const double grown = Growth("NewContact", program, first, last);
     lines.push_back({Text("One new contact, %d to %d", first, last), Text("%.2f times", grown),
                      Text("%.2f times", Growth("NewContact", yardstick, first, last)), grown, newContactLimit});
+}
+
+void Figures::AddMemory(std::vector<Line>& lines, const std::vector<int>& sizes) const
+{
     for (const int contacts : sizes) {
         const double ours = At("Memory", program, contacts);
         const double theirs = At("Memory", yardstick, contacts);
         lines.push_back({Text("Memory of a contact, %d", contacts), Text("%.0f bytes", ours),
                          Text("%.0f bytes", theirs), ours / 1024, memoryLimit / 1024});
     }
+}
+
+void Figures::AddCells(std::vector<Line>& lines, const std::vector<int>& sizes, const std::string& list) const
+{
+    if (!WasRun("ListMemory" + list))
+        return;
     for (const int contacts : sizes) {
-        for (const char* what : {"Contacts", "Properties"}) {
-            const double bytes = At(std::string("ListMemory") + what, program, contacts);
-            lines.push_back({Text("Memory of a cell, %s, %d", what, contacts), Text("%.0f bytes", bytes), "", bytes,
-                             cellLimit});
-        }
+        const double bytes = At("ListMemory" + list, program, contacts);
+        lines.push_back(
+            {Text("Bytes of a cell, %s, %d", list.c_str(), contacts), Text("%.0f bytes", bytes), "", bytes, cellLimit});
     }
-    return lines;
 }
 
 int Figures::PrintTable(const std::vector<int>& sizes) const

@@ -1,6 +1,7 @@
 #include "BareStore.h"
 #include "Benches.h"
 #include "core/User.h"
+#include "Figures.h"
 #include "model/Category.h"
 #include "model/Contact.h"
 #include "model/DeleteContacts.h"
@@ -181,6 +182,9 @@ void RegisterLists(int contacts)
         return benchmark::RegisterBenchmark(name, run)->Arg(contacts)->Iterations(times);
     };
     const auto bareFill = [](int every) { return [every](benchmark::State& state) { BareFill(state, every); }; };
+    AddFigure({"FillList", "Filling the list"});
+    AddFigure({"OpenSubcategory", "Opening a 20th"});
+    AddFigure({"DeleteHighlighted", "Deleting a 20th"});
     add("FillList/program", FillList, 3);
     add("FillList/yardstick", bareFill(1), 3);
     add("OpenSubcategory/program", OpenSubcategory, 3);

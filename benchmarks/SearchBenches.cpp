@@ -1,5 +1,6 @@
 #include "BareStore.h"
 #include "Benches.h"
+#include "Figures.h"
 #include "model/Contact.h"
 #include "model/Main.h"
 #include "model/PropDetail.h"
@@ -215,6 +216,10 @@ void BareList(benchmark::State& state, SearchMode mode)
 
 void RegisterSearch(int contacts)
 {
+    AddFigure({"SearchContacts", "Searching contacts", 1, 1.3, 10'000});
+    AddFigure({"SearchProperties", "Searching properties", 1, 1.3, 10'000});
+    AddFigure({"ListContacts", "Listing contacts", 2, 1.3, 10'000});
+    AddFigure({"ListProperties", "Listing properties", 2, 1.3, 10'000});
     const auto add = [contacts](const std::string& name, const std::function<void(benchmark::State&)>& run, int times) {
         return benchmark::RegisterBenchmark(name.c_str(), run)->Arg(contacts)->Iterations(times);
     };

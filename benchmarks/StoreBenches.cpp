@@ -2,6 +2,7 @@
 #include "Benches.h"
 #include "Child.h"
 #include "core/adodb/Connection.h"
+#include "Figures.h"
 #include "model/Contact.h"
 #include "Program.h"
 #include "Samples.h"
@@ -110,6 +111,7 @@ void RegisterTasks(const std::string& figure, int contacts, void (*measure)(benc
 
 void RegisterLoad(int contacts)
 {
+    AddFigure({"Load", "Loading", 0.7});
     RegisterTasks("Load", contacts, Load);
 }
 
@@ -120,6 +122,7 @@ void RegisterMemory(int contacts)
 
 void RegisterStart(int contacts)
 {
+    AddFigure({"Start", "Start", 2.5});
     benchmark::RegisterBenchmark("Start/program", Start)->Arg(contacts)->Iterations(1)->UseManualTime();
     benchmark::RegisterBenchmark("Start/yardstick", BareStart)->Arg(contacts)->Iterations(1)->UseManualTime();
 }

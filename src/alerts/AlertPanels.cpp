@@ -23,7 +23,6 @@
 #include <QScopeGuard>
 #include <QSplitter>
 #include <QVBoxLayout>
-#include <unordered_set>
 
 using namespace Qt::StringLiterals;
 
@@ -260,15 +259,8 @@ void AlertPanels::RemoveAlertFromGrid(Long alertID, bool isFuture)
 void AlertPanels::RemoveAlerts(const std::vector<Long>& alertIDs)
 {
     Trap(u"frmMain RemoveAlerts Error #"_s, Icon::Critical, [&] {
-        const std::unordered_set<Long> gone(alertIDs.begin(), alertIDs.end());
-        for (Grid* panel : {m_current, m_future}) {
-            std::vector<int> rows;
-            for (int row = 1; row <= panel->Rows(); ++row) {
-                if (gone.contains(panel->RowItemData(row)))
-                    rows.push_back(row);
-            }
-            panel->RemoveRows(rows);
-        }
+        for (Grid* panel : {m_current, m_future})
+            RemoveRowsOf(*panel, alertIDs);
     });
 }
 

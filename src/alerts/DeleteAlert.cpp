@@ -30,21 +30,16 @@ bool DeleteCurrentAlert()
 
 void ShowAlertIcon()
 {
-    auto* list = Face<ContactListFace>::Get();
-    if (list != nullptr && list->SelectedRow() > 0)
-        list->SetAlertIcon(list->SelectedRow());
+    if (auto* list = Face<ContactListFace>::Get())
+        list->ShowAlertIcon();
 }
 
 void CountDeletedAlert()
 {
     --curContact->NumberOfAlerts;
     ShowAlertIcon();
-    auto* list = Face<ContactListFace>::Get();
-    if (list == nullptr)
-        return;
-    // A highlight of several rows is the person's and stays.
-    if (const std::vector<Long> highlighted = list->Highlighted(); highlighted.size() == 1)
-        list->SelectContact(highlighted.front());
+    if (auto* list = Face<ContactListFace>::Get())
+        list->FocusFirstName();
 }
 
 void ConfirmDelThisAlert()
@@ -56,6 +51,7 @@ void ConfirmDelThisAlert()
         if (!ConfirmedDelete(*alert))
             return;
         const bool future = DeleteCurrentAlert();
+        curAlertIndex = 0;
         if (auto* panels = Face<AlertPanelsFace>::Get())
             panels->FillAlertGrid(future);
         CountDeletedAlert();

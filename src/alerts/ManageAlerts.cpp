@@ -31,10 +31,9 @@ bool ChooseContact(Long mode)
 
 bool AskDateAndNote()
 {
-    gReturnValue = AskForDate(u"New Alert Date for "_s + FormatName(), Clock::Today());
-    if (gReturnValue.isEmpty())
+    const QString date = AskForDate(u"New Alert Date for "_s + FormatName(), Clock::Today());
+    if (date.isEmpty())
         return false;
-    const QString date = gReturnValue;
     gReturnValue = AskFor(u"New Alert Title"_s, 255);
     if (gReturnValue.isEmpty()) {
         MsgBox(u"I did not save this alert because\r\nyou did not enter any alert notes."_s, Buttons::Ok,

@@ -259,22 +259,22 @@ void frmAlerts::picCalendar_Click()
 {
     Trap(u"frmAlerts picCalendar_Click Error #"_s, Icon::Critical, [this] {
         const std::optional<Date> shown = ParseDate(m_ui->lblDate->text());
-        gReturnValue =
+        const QString date =
             AskForDate(u"Alert Date for "_s + FormatName(), shown ? ToDateTime(*shown).date() : Clock::Today());
-        if (!gReturnValue.isEmpty())
-            m_ui->lblDate->setText(gReturnValue);
+        if (!date.isEmpty())
+            m_ui->lblDate->setText(date);
     });
 }
 
 void frmAlerts::NewClick()
 {
     Trap(u"frmAlerts NewClick Error #"_s, Icon::Critical, [this] {
-        gReturnValue = AskForDate(u"Alert Date for "_s + FormatName(), Clock::Today());
-        if (gReturnValue.isEmpty())
+        const QString date = AskForDate(u"Alert Date for "_s + FormatName(), Clock::Today());
+        if (date.isEmpty())
             return;
         gAlertMode = AlertMode::New;
         ShowNote({});
-        m_ui->lblDate->setText(gReturnValue);
+        m_ui->lblDate->setText(date);
         SetEditing(true);
     });
 }

@@ -10,6 +10,7 @@
 #include "ui/widgets/HoverButton.h"
 #include "ui/widgets/HoverButtonArray.h"
 #include "ui/widgets/Pictures.h"
+#include "ui/widgets/PlainText.h"
 #include "ui/widgets/ResizeScaler.h"
 #include "ui_frmNotes.h"
 
@@ -124,22 +125,13 @@ void frmNotes::ShowText(const QString& text)
 {
     m_ui->txtNotes->setPlainText(text);
     m_stored = text;
-    m_storedAsTyped = TypedText();
-}
-
-QString frmNotes::TypedText() const
-{
-    // The raw text: the plain one would turn hard blanks into soft ones.
-    QString text = m_ui->txtNotes->document()->toRawText();
-    // Shift+Enter makes a line separator; in the notes a line break is a line break.
-    text.replace(QChar(QChar::LineSeparator), u"\r\n"_s);
-    return text.replace(QChar(QChar::ParagraphSeparator), u"\r\n"_s);
+    m_storedAsTyped = PlainText(*m_ui->txtNotes);
 }
 
 QString frmNotes::Text() const
 {
     // Notes of other hands may break their lines otherwise; unchanged they go back as they came.
-    const QString typed = TypedText();
+    const QString typed = PlainText(*m_ui->txtNotes);
     return typed == m_storedAsTyped ? m_stored : typed;
 }
 

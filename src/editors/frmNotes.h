@@ -43,7 +43,6 @@ private:
     void ShowText(const QString& text);
     /// What the box holds, as the store keeps it.
     [[nodiscard]] QString Text() const;
-    [[nodiscard]] QString TypedText() const;
 
     std::unique_ptr<Ui::frmNotes> m_ui;
     std::unique_ptr<ResizeScaler> m_scaler;

@@ -10,5 +10,5 @@ class Alert;
 std::shared_ptr<Alert> AddToAlertCollection(const QString& alertDate, const QString& alertNote);
 
 /// The same, and shows the new alert in its panel; it becomes the current alert. The contact's NumberOfAlerts stays as
-/// it was, which is meant: frmAlerts counts when it closes.
+/// it was, which is meant: frmAlerts counts when it closes, and where it does not come up, the next start does.
 void AddNewAlert(const QString& alertDate, const QString& alertNote);

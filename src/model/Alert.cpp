@@ -22,6 +22,9 @@ Long Alert::AddToDB() const
 void Alert::UpdateDB() const
 {
     Trap(u"Class Alert UpdateDB Error #"_s, Icon::Information, [&] {
+        // Its row was never found: a change would go nowhere without a word.
+        if (curAlertKey() == 0)
+            throw RunTimeError(ErrorNumber::NoCurrentRecord);
         gConn.Execute(u"Update Alerts set AlertDate='"_s + CStr(AlertDate) + u"', AlertNote='"_s + FixQuotes(AlertNote) +
                       u"' Where ID="_s + CStr(curAlertKey()));
     });

@@ -80,7 +80,9 @@ Ids ForgetAlerts(const Ids& contactIDs)
         for (const Alert* alert : gAlerts.OfContact(id))
             alertIDs.push_back(alert->KeyID());
     }
+    const Long current = curAlertIndex > 0 && curAlertIndex <= gAlerts.Count() ? curAlertKey() : 0;
     gAlerts.RemoveIf([&gone](const Alert& alert) { return gone.contains(alert.ContactID); });
+    curAlertIndex = FindAlert(current);
     return alertIDs;
 }
 

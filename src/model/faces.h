@@ -107,7 +107,10 @@ public:
     virtual void SetSelectedRowData(Long contactID) = 0;
     /// Shows how many properties a contact has.
     virtual void ShowPropertyCount(Long contactID, int count) = 0;
-    virtual void SetAlertIcon(int row) = 0;
+    /// Brings the alert column up to date in curContact's row, which need not be the selected one.
+    virtual void ShowAlertIcon() = 0;
+    /// Moves the selected cell to "FirstName" in its row; all highlights stay.
+    virtual void FocusFirstName() = 0;
     /// Shows or takes away the mark of a Selected contact.
     virtual void ShowChecked(Long contactID, bool checked) = 0;
     virtual void FillContactList() = 0;

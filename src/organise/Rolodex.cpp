@@ -13,7 +13,6 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QVBoxLayout>
-#include <unordered_set>
 
 using namespace Qt::StringLiterals;
 
@@ -187,13 +186,7 @@ void Rolodex::SelectInRolodex(bool selecting)
 
 void Rolodex::RemoveContacts(const std::vector<Long>& contactIDs)
 {
-    const std::unordered_set<Long> gone(contactIDs.begin(), contactIDs.end());
-    std::vector<int> rows;
-    for (int row = 1; row <= m_grid->Rows(); ++row) {
-        if (gone.contains(m_grid->RowItemData(row)))
-            rows.push_back(row);
-    }
-    m_grid->RemoveRows(rows);
+    RemoveRowsOf(*m_grid, contactIDs);
 }
 
 void Rolodex::GridRolodex_MouseUp(Qt::MouseButton button, QPoint position)

@@ -13,7 +13,6 @@
 #include <QAction>
 #include <QMenuBar>
 #include <QVBoxLayout>
-#include <unordered_set>
 
 using namespace Qt::StringLiterals;
 
@@ -190,7 +189,7 @@ void frmList::AddContact(const std::shared_ptr<Contact>& contact)
     curContact = contact;
     const int row = m_grid->AddRow(contact->RecID);
     WriteRow(row);
-    if (contact->NumberOfAlerts > 0)
+    if (!gAlerts.OfContact(contact->RecID).empty())
         SetAlertIcon(row);
     if (contact->Selected)
         m_grid->SetCellIcon(row, checkedColumn, u"checked"_s);
@@ -233,6 +232,20 @@ void frmList::SetAlertIcon(int row)
         m_grid->SetCellText(row, alertColumn,
                             curContact->NumberOfAlerts > 0 ? CStr(curContact->NumberOfAlerts) : QString());
     });
+}
+
+void frmList::ShowAlertIcon()
+{
+    if (!curContact)
+        return;
+    if (const int row = m_grid->FindRow(curContact->RecID); row > 0)
+        SetAlertIcon(row);
+}
+
+void frmList::FocusFirstName()
+{
+    if (SelectedRow() > 0)
+        m_grid->SetSelectedCol(firstFieldColumn);
 }
 
 int frmList::Rows() const
@@ -296,13 +309,7 @@ void frmList::SelectContact(Long contactID)
 
 void frmList::RemoveContacts(const std::vector<Long>& contactIDs)
 {
-    const std::unordered_set<Long> gone(contactIDs.begin(), contactIDs.end());
-    std::vector<int> rows;
-    for (int row = 1; row <= Rows(); ++row) {
-        if (gone.contains(m_grid->RowItemData(row)))
-            rows.push_back(row);
-    }
-    m_grid->RemoveRows(rows);
+    RemoveRowsOf(*m_grid, contactIDs);
     if (Rows() > 0)
         GridList_SelectionChange();
 }

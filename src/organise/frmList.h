@@ -33,7 +33,8 @@ public:
     void UpdateContactGridCols() override;
     void SetSelectedRowData(Long contactID) override;
     void ShowPropertyCount(Long contactID, int count) override;
-    void SetAlertIcon(int row) override;
+    void ShowAlertIcon() override;
+    void FocusFirstName() override;
     void ShowChecked(Long contactID, bool checked) override;
     void FillContactList() override;
     void UnloadList() override;
@@ -50,6 +51,7 @@ private:
     void ShowCaption();
     void AddContact(const std::shared_ptr<Contact>& contact);
     void WriteRow(int row);
+    void SetAlertIcon(int row);
     void UpdateContactPropDisplay(int count, int row);
     void EnableProperties();
 
@@ -59,6 +61,7 @@ private:
     void ConnectGrid();
     void GridList_ColumnClick(int column);
     void GridList_SelectionChange();
+    void TakeSelectedRow();
     void GridList_MouseDown();
     void GridList_MouseUp(Qt::MouseButton button, QPoint position);
     void GridList_DblClick(int row, int column);

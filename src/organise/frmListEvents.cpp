@@ -93,8 +93,17 @@ void frmList::GridList_SelectionChange()
     });
 }
 
+void frmList::TakeSelectedRow()
+{
+    // Other windows choose contacts too; what is done in the list is done to its own row.
+    const Long id = SelectedRow() > 0 ? m_grid->RowItemData(SelectedRow()) : 0;
+    if (gContacts.Exists(id))
+        curContact = ContactAt(id);
+}
+
 void frmList::GridList_MouseDown()
 {
+    TakeSelectedRow();
     ShoWait(u"Contact List"_s);
     gFocusField.clear();
 }
@@ -142,6 +151,7 @@ void frmList::mnuContacts_Click()
 {
     Trap(u"frmList mnuContacts_Click Error #"_s, Icon::Information, [this] {
         const qsizetype count = HilitedContacts();
+        TakeSelectedRow();
         for (const char* name : {"mnuModify", "mnuSelect", "mnuUnselect", "mnuDelete", "mnuMove", "mnuManageAlerts",
                                  "mnuNewAlert", "mnuNotes"})
             Entry(name).setEnabled(count > 0);
@@ -208,7 +218,7 @@ void frmList::GridList_DblClick(int row, int column)
             if (!gOpeners.Alerts)
                 return;
             ShoWait(FormatName() + u" Alerts.."_s);
-            gAlertMode = curContact->NumberOfAlerts > 0 ? 4 : 3;
+            gAlertMode = gAlerts.OfContact(curContact->RecID).empty() ? AlertMode::New : AlertMode::Modify;
             gOpeners.Alerts();
         } else if (key != "Checked"_L1) {
             mnuModify_Click();
@@ -218,6 +228,7 @@ void frmList::GridList_DblClick(int row, int column)
 
 void frmList::GridList_KeyDown(int code)
 {
+    TakeSelectedRow();
     if (code == Key::Delete) {
         HilitedContacts();
         mnuDelete_Click();
@@ -289,7 +300,7 @@ void frmList::mnuMove_Click()
 void frmList::mnuManageAlerts_Click()
 {
     Trap(u"frmList mnuManageAlerts_Click Error #"_s, Icon::Information, [] {
-        gAlertMode = 4;
+        gAlertMode = AlertMode::Modify;
         if (gOpeners.Alerts)
             gOpeners.Alerts();
     });
@@ -298,7 +309,7 @@ void frmList::mnuManageAlerts_Click()
 void frmList::mnuNewAlert_Click()
 {
     Trap(u"frmList mnuNewAlert_Click Error #"_s, Icon::Information, [] {
-        gAlertMode = 3;
+        gAlertMode = AlertMode::New;
         if (gOpeners.Alerts)
             gOpeners.Alerts();
     });

@@ -4,8 +4,11 @@
 #include "core/Dates.h"
 #include "model/AddNewAlert.h"
 #include "model/DeleteContacts.h"
+#include "model/Openers.h"
 
+#include <QCalendarWidget>
 #include <QContextMenuEvent>
+#include <QPlainTextEdit>
 
 using namespace Qt::StringLiterals;
 
@@ -24,6 +27,8 @@ private Q_SLOTS:
     void EnterAndDoubleClickShowTheAlert();
     void DeleteTakesTheAlertOfTheSelectedRow_data();
     void DeleteTakesTheAlertOfTheSelectedRow();
+    void TheListWorksOnItsOwnRowAfterAPanelChoseAnother();
+    void ThePopupSetsANewAlert();
     void AnAlertOfNextJanuaryLeavesItsRowBehind();
     void ADeleteThatFailsLosesNothing();
     void TheFirstPopupAfterAnEmptyPanelIsShort();
@@ -192,8 +197,9 @@ void tst_AlertPanels::DeleteTakesTheAlertOfTheSelectedRow()
     QVERIFY(morning.Database.TakeStatements().isEmpty());
     QCOMPARE(panel.Rows(), 2);
 
+    // The list stands on somebody else, whose row stays as it is.
     const int row = future ? 2 : 1;
-    list.SelectCell(row, 9);
+    list.SelectCell(3, 9);
     morning.Person.Expect(title, question, Answer::Yes);
     QTest::keyClick(&panel, Qt::Key_Delete);
     QCOMPARE(morning.Database.TakeStatements(), QStringList{statement});
@@ -202,10 +208,68 @@ void tst_AlertPanels::DeleteTakesTheAlertOfTheSelectedRow()
     QCOMPARE(gAlerts.Count(), 3);
     QCOMPARE(curContact->NumberOfAlerts, 1);
     QCOMPARE(list.CellText(row, 1), u"1"_s);
+    QCOMPARE(list.CellText(3, 1) + list.CellIcon(3, 1), QString());
+    QCOMPARE(list.SelectedRow(), 3);
     QCOMPARE(list.Column(list.SelectedCol()).Key, u"FirstName"_s);
     // An empty panel has nothing to delete.
     panel.RemoveRow(1);
     QTest::keyClick(&panel, Qt::Key_Delete);
+}
+
+void tst_AlertPanels::TheListWorksOnItsOwnRowAfterAPanelChoseAnother()
+{
+    Morning morning;
+    Grid& list = morning.OpenList();
+    Morning::Press(list, 3);
+    {
+        const WhenFormOpens alerts(u"frmAlerts"_s, [](Form& form) { TypeKey(form, Qt::Key_Escape); });
+        QTest::keyClick(&morning.Current(), Qt::Key_Return);
+    }
+    QCOMPARE(FormatName(), u"Ann Lee"_s);
+    // The cell that is selected already: nothing changes its row, but what is done there is done to its contact.
+    const int column = list.ColumnIndex(u"LastName");
+    list.SelectCell(3, column);
+    gOpeners.ContactEditor = [] {};
+    QTest::keyClick(&list, Qt::Key_Return);
+    QCOMPARE(FormatName(), u"Cy Day"_s);
+    curContact = ContactAt(1);
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {},
+                       list.visualRect(list.model()->index(2, column - 1)).center());
+    QCOMPARE(FormatName(), u"Cy Day"_s);
+}
+
+void tst_AlertPanels::ThePopupSetsANewAlert()
+{
+    Morning morning;
+    morning.OpenList();
+    const WhenFormOpens chooser(u"frmAlertContacts"_s, [](Form& form) {
+        auto& grid = Control<Grid>(form, u"Grid1"_s);
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(grid.model()->index(0, 0)).center());
+        ClickOn(form, u"cmdbutton_2"_s);
+    });
+    const WhenFormOpens calendar(u"frmCalendar"_s, [](Form& form) {
+        QCOMPARE(form.windowTitle(), u"New Alert Date for Cy Day"_s);
+        QCOMPARE(Control<QCalendarWidget>(form, u"Calendar1"_s).selectedDate(), QDate(2026, 11, 22));
+        ClickOn(form, u"cmdButton_2"_s);
+    });
+    morning.Person.ExpectAskFor(u"New Alert Title"_s, u"Call Cy"_s);
+    morning.Entry(u"mnuNewCurAlert"_s).trigger();
+    morning.Person.Done();
+    QCOMPARE(morning.Counts(), u"3 2"_s);
+    QVERIFY(Morning::Texts(morning.Current()).contains(u"Call Cy"_s));
+    QCOMPARE(curAlertIndex, gAlerts.Count());
+    QCOMPARE(ContactAt(3)->NumberOfAlerts, 0); // counted when frmAlerts closes or at the next start, which is meant
+    // The list that is filled anew knows it all the same, and its double click shows the alert.
+    Form& window = *Forms::Find(u"frmList"_s);
+    window.Unload();
+    Grid& again = morning.OpenList();
+    QCOMPARE(again.CellIcon(3, 1), u"red"_s);
+    const WhenFormOpens alerts(u"frmAlerts"_s, [](Form& form) {
+        QCOMPARE(Control<Grid>(form, u"Grid1"_s).Rows(), 1);
+        QVERIFY(Control<QPlainTextEdit>(form, u"txtNotes"_s).isReadOnly());
+    });
+    QTest::mouseDClick(again.viewport(), Qt::LeftButton, {}, again.visualRect(again.model()->index(2, 0)).center());
+    QCOMPARE(ContactAt(3)->NumberOfAlerts, 1);
 }
 
 void tst_AlertPanels::AnAlertOfNextJanuaryLeavesItsRowBehind()

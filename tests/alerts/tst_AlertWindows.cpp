@@ -31,6 +31,7 @@ private Q_SLOTS:
     void TwoAlertsOfOneDayShareTheirKeyUntilTheNextStart();
     void ANoteComesBackAsItWasWritten_data();
     void ANoteComesBackAsItWasWritten();
+    void AnyBreakInANoteIsALineBreak();
     void ANoteOfOtherHandsIsNotTouchedByADate();
     void SettingAnAlertByThreeQuestions();
     void SettingAnAlertEndsWhereThePersonStops_data();
@@ -352,6 +353,20 @@ void tst_AlertWindows::ANoteComesBackAsItWasWritten()
     QCOMPARE(gAlerts.Item(1)->AlertNote, note);
     QCOMPARE(Morning::Texts(morning.Current()).first(), QString(note).remove(u"\r\n"_s));
     morning.Main().grab(); // a long note must paint, too
+}
+
+void tst_AlertWindows::AnyBreakInANoteIsALineBreak()
+{
+    Morning morning;
+    const WhenFormOpens window(u"frmAlerts"_s, [](Form& form) {
+        Modify(form);
+        TypeText(form, u"One"_s);
+        TypeKey(form, Qt::Key_Return, Qt::ShiftModifier);
+        TypeText(form, u"two"_s);
+        Modify(form);
+    });
+    Open(1, AlertMode::Modify);
+    QCOMPARE(FreshDatabase::Rows(u"Select AlertNote from Alerts Where ID=1"_s), QStringList{u"One\r\ntwo"_s});
 }
 
 void tst_AlertWindows::ANoteOfOtherHandsIsNotTouchedByADate()

@@ -49,7 +49,8 @@ public:
             Data[static_cast<size_t>(Selected) - 1] = contactID;
     }
     void ShowPropertyCount(Long, int) override {}
-    void SetAlertIcon(int) override {}
+    void ShowAlertIcon() override {}
+    void FocusFirstName() override {}
     void ShowChecked(Long, bool) override {}
     void FillContactList() override {}
     void UnloadList() override { Unloaded = true; }

@@ -100,7 +100,7 @@ void tst_ContactList::AlertsPropertiesAndSelectionShowInTheirColumns()
     gAlerts.RemoveAll();
     curContact = ContactAt(2);
     curContact->NumberOfAlerts = 0;
-    Face<ContactListFace>::Get()->SetAlertIcon(2);
+    Face<ContactListFace>::Get()->ShowAlertIcon();
     QCOMPARE(grid.CellText(2, 1), QString());
     QCOMPARE(grid.CellIcon(2, 1), QString());
     QCOMPARE(grid.CellColor(2, first), grid.CellColor(2, grid.ColumnIndex(u"Address1")));

@@ -74,6 +74,11 @@ void FreshDatabase::StartAnew()
     gConn.Close();
     ResetGlobals();
     gAppPath = m_folder.path();
+    Open();
+}
+
+void FreshDatabase::Open()
+{
     gConn.Open(u"Driver={Microsoft Access Driver (*.mdb)};Dbq="_s + gAppPath + u"\\Data\\Contacts.mdb;Password=kostrevy48"_s);
     Record();
 }

@@ -18,6 +18,8 @@ public:
 
     /// Forgets everything in memory and opens the file again, as a new start of the program does.
     void StartAnew();
+    /// Opens the file, where gConn was closed; what is in memory stays.
+    void Open();
 
     /// The statements that went through gConn since the last call, in their order.
     [[nodiscard]] QStringList TakeStatements();

@@ -1,6 +1,4 @@
-#include "sweeps/SearchWindows.h"
-
-#include "support/Windows.h"
+#include "sweeps/Office.h"
 #include "ui/frame/frmMain.h"
 #include "ui/widgets/Grid.h"
 
@@ -11,53 +9,48 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Opening
+/// The search tab with everything found.
+void OpenTab(Office& office, const QString& mode, const Look& look)
 {
-    const char* Window;
-    /// The row of the property criteria that asks by it.
-    int Row;
-    const char* Form;
-    /// The condition that shows all of it.
-    const char* Condition;
-};
+    office.Main().ShowTab(1);
+    Control<QRadioButton>(office.Main(), mode).click();
+    ClickOn(office.Main(), u"cmdbutton_2"_s);
+    Control<Grid>(office.Main(), u"GridSearch"_s).setFocus();
+    look(office.Main());
+}
 
-constexpr Opening openings[]{{"value of a criterion", 2, "frmSetValue", nullptr},
-                             {"list of a criterion", 12, "frmSetValue", nullptr},
-                             {"date of a criterion", 27, "frmDate", "From"},
-                             {"amount of a criterion", 18, "frmCurrency", "Between"}};
+/// Asks for the criterion of a row of properties; `condition` shows all of a window that has one.
+void AskRow(Office& office, int row, const QString& form, const QString& condition, const Look& look)
+{
+    OpenTab(office, u"optSearch_1"_s, [&](QWidget& main) {
+        Control<Grid>(main, u"GridSearch"_s).SetSelectedRow(row);
+        Office::InForm(
+            form, [&main] { TypeKey(main, Qt::Key_Return); },
+            [&](QWidget& shown) {
+                if (!condition.isEmpty())
+                    Control<QComboBox>(shown, u"cboCondition"_s).setCurrentText(condition);
+                look(shown);
+            });
+    });
+}
+
+OfficeWindow Asking(const QString& name, const QString& focus, int row, const QString& form, const QString& condition)
+{
+    return {name, focus, [=](Office& office, const Look& look) { AskRow(office, row, form, condition, look); }};
+}
 
 } // namespace
 
-QStringList SearchWindowNames()
+QList<OfficeWindow> SearchWindows()
 {
-    QStringList names{u"search"_s, u"search for properties"_s};
-    for (const Opening& opening : openings)
-        names << QString::fromLatin1(opening.Window);
-    return names;
-}
-
-void OpenSearchWindow(frmMain& main, const QString& window, const std::function<void(QWidget& window)>& look)
-{
-    main.ShowTab(1);
-    if (window != "search"_L1)
-        Control<QRadioButton>(main, u"optSearch_1"_s).click();
-    if (window.startsWith("search"_L1)) {
-        ClickOn(main, u"cmdbutton_2"_s);
-        Control<Grid>(main, u"GridSearch"_s).setFocus();
-        look(main);
-        return;
-    }
-    for (const Opening& opening : openings) {
-        if (window != QLatin1StringView(opening.Window))
-            continue;
-        auto& grid = Control<Grid>(main, u"GridSearch"_s);
-        grid.SetSelectedRow(opening.Row);
-        grid.setFocus();
-        const WhenFormOpens form(QString::fromLatin1(opening.Form), [&](Form& shown) {
-            if (opening.Condition != nullptr)
-                Control<QComboBox>(shown, u"cboCondition"_s).setCurrentText(QString::fromLatin1(opening.Condition));
-            look(shown);
-        });
-        TypeKey(main, Qt::Key_Return);
-    }
+    return {
+        {u"search for contacts"_s, u"GridSearch"_s,
+         [](Office& office, const Look& look) { OpenTab(office, u"optSearch_0"_s, look); }},
+        {u"search for properties"_s, u"GridSearch"_s,
+         [](Office& office, const Look& look) { OpenTab(office, u"optSearch_1"_s, look); }},
+        Asking(u"value of a criterion"_s, u"txtLongString"_s, 2, u"frmSetValue"_s, {}),
+        Asking(u"list of a criterion"_s, u"cboPropType"_s, 12, u"frmSetValue"_s, {}),
+        Asking(u"date of a criterion"_s, u"txtDate1"_s, 27, u"frmDate"_s, u"From"_s),
+        Asking(u"amount of a criterion"_s, u"txtAmount1"_s, 18, u"frmCurrency"_s, u"Between"_s),
+    };
 }

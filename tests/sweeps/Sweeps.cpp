@@ -12,6 +12,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QRadioButton>
 #include <QSet>
 #include <QTabBar>
 #include <QTreeView>
@@ -25,6 +26,13 @@ bool IsPartOfAnother(const QWidget* control)
 {
     const QString name = control->objectName();
     return name.startsWith("qt_"_L1) && name != "qt_msgbox_label"_L1;
+}
+
+/// What Tab comes to in a group of options is the chosen one; the arrow keys walk on from there.
+bool IsLeftToTheArrows(const QWidget* control)
+{
+    const auto* option = qobject_cast<const QRadioButton*>(control);
+    return option != nullptr && !option->isChecked();
 }
 
 QList<QWidget*> Shown(const QWidget& window)
@@ -122,7 +130,8 @@ QStringList NotReachedByTab(QWidget& window)
 {
     QSet<const QWidget*> left;
     for (QWidget* control : Shown(window)) {
-        if (control->isEnabled() && (control->focusPolicy() & Qt::TabFocus) != 0 && control->focusProxy() == nullptr)
+        if (control->isEnabled() && (control->focusPolicy() & Qt::TabFocus) != 0 && control->focusProxy() == nullptr &&
+            !IsLeftToTheArrows(control))
             left.insert(control);
     }
     const qsizetype enough = 2 * left.size() + 2;

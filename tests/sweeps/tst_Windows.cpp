@@ -47,8 +47,8 @@ namespace {
 void AddRowForEachWindow()
 {
     QTest::addColumn<QString>("window");
-    for (const QString& window : Office::WindowNames())
-        QTest::newRow(qUtf8Printable(window)) << window;
+    for (const OfficeWindow& window : Office::Windows())
+        QTest::newRow(qUtf8Printable(window.Name)) << window.Name;
 }
 
 /// The entries of a menu that can be chosen now, those of its submenus among them.
@@ -91,24 +91,10 @@ void tst_Windows::cleanup()
 void tst_Windows::TheFocusIsWhereThePersonBegins_data()
 {
     QTest::addColumn<QString>("control");
-    const std::pair<const char*, const char*> rows[] = {{"main window", "trvCategories"},
-                                                        {"contact list", "GridList"},
-                                                        {"new contact", "txtFirstName"},
-                                                        {"contact", "txtFirstName"},
-                                                        {"notes", "txtNotes"},
-                                                        {"move contact", "TreeView1"},
-                                                        {"move category", "TreeView1"},
-                                                        {"line of text", "txtInput"},
-                                                        {"question", "Yes"},
-                                                        {"question of notes", "Yes"},
-                                                        {"error", "OK"},
-                                                        {"search", "GridSearch"},
-                                                        {"value of a criterion", "txtLongString"},
-                                                        {"list of a criterion", "cboPropType"},
-                                                        {"date of a criterion", "txtDate1"},
-                                                        {"amount of a criterion", "txtAmount1"}};
-    for (const auto& [window, control] : rows)
-        QTest::newRow(window) << QString::fromLatin1(control);
+    for (const OfficeWindow& window : Office::Windows()) {
+        if (!window.Focus.isEmpty())
+            QTest::newRow(qUtf8Printable(window.Name)) << window.Focus;
+    }
 }
 
 void tst_Windows::TheFocusIsWhereThePersonBegins()
@@ -124,10 +110,9 @@ void tst_Windows::TheFocusIsWhereThePersonBegins()
 void tst_Windows::TabComesToEveryControl_data()
 {
     QTest::addColumn<QString>("window");
-    for (const QString& window : Office::WindowNames()) {
-        // A sheet keeps Tab to its rows.
-        if (!window.endsWith("contact"_L1) || window.startsWith("move"_L1))
-            QTest::newRow(qUtf8Printable(window)) << window;
+    for (const OfficeWindow& window : Office::Windows()) {
+        if (!window.KeepsTab)
+            QTest::newRow(qUtf8Printable(window.Name)) << window.Name;
     }
 }
 
@@ -169,10 +154,11 @@ void tst_Windows::NothingIsCut_data()
     QTest::addColumn<QString>("window");
     QTest::addColumn<bool>("smallest");
     QTest::addColumn<double>("letters");
-    for (const QString& window : Office::WindowNames()) {
-        QTest::addRow("%s", qUtf8Printable(window)) << window << false << 1.0;
-        QTest::addRow("%s, smallest", qUtf8Printable(window)) << window << true << 1.0;
-        QTest::addRow("%s, large letters", qUtf8Printable(window)) << window << false << 1.5;
+    for (const OfficeWindow& window : Office::Windows()) {
+        const QByteArray name = window.Name.toUtf8();
+        QTest::addRow("%s", name.constData()) << window.Name << false << 1.0;
+        QTest::addRow("%s, smallest", name.constData()) << window.Name << true << 1.0;
+        QTest::addRow("%s, large letters", name.constData()) << window.Name << false << 1.5;
     }
 }
 

@@ -1,6 +1,7 @@
 #include "make_window_pictures/Stage.h"
 
 #include "ui/widgets/Form.h"
+#include "ui/widgets/Forms.h"
 
 #include <chrono>
 #include <exception>
@@ -8,9 +9,11 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QMessageBox>
+#include <QTest>
 #include <QTimer>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace {
@@ -30,6 +33,25 @@ void Close(QWidget& window)
 }
 
 } // namespace
+
+QWidget& Window(const QString& name)
+{
+    QWidget* form = Forms::Find(name);
+    if (form == nullptr)
+        throw std::runtime_error(qPrintable(name + u" is not open"_s));
+    return *form;
+}
+
+void Key(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers)
+{
+    QTest::keyClick(window.windowHandle(), key, modifiers);
+}
+
+void Type(QWidget& window, const QString& text)
+{
+    for (const QChar letter : text)
+        QTest::sendKeyEvent(QTest::Click, window.windowHandle(), Qt::Key_unknown, QString(letter), {});
+}
 
 void Settle()
 {

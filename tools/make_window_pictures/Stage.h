@@ -1,10 +1,27 @@
 #pragma once
 
 #include <functional>
-
-class QWidget;
+#include <QString>
+#include <QWidget>
+#include <stdexcept>
 
 // Working the windows of the running program for their pictures.
+
+/// The control of this name in a window; raises where there is none.
+template <typename T>
+[[nodiscard]] T& Find(const QWidget& window, const QString& name)
+{
+    T* found = window.findChild<T*>(name);
+    if (found == nullptr)
+        throw std::runtime_error(qPrintable(window.objectName() + QStringLiteral(" has no ") + name));
+    return *found;
+}
+
+/// The open window of this name; raises where there is none.
+[[nodiscard]] QWidget& Window(const QString& name);
+
+void Key(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+void Type(QWidget& window, const QString& text);
 
 /// Lets everything happen that the windows have queued.
 void Settle();

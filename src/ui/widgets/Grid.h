@@ -189,6 +189,8 @@ private:
 
 /// Adds a row at the end with `text` in its first column.
 int AddGridRow(Grid& grid, const QString& text, Long itemData = 0);
+/// Takes away every row whose item data is one of these, in one pass.
+void RemoveRowsOf(Grid& grid, const std::vector<Long>& itemData);
 /// Whether any cell of the row is highlighted.
 [[nodiscard]] bool AnySelectedCol(int row, const Grid& grid);
 /// The sort of a click on a column header: by date where the column's first filled cell is a date, otherwise by the

@@ -2,11 +2,23 @@
 #include "core/Dates.h"
 #include "ui/widgets/Grid.h"
 
+#include <unordered_set>
+
 int AddGridRow(Grid& grid, const QString& text, Long itemData)
 {
     const int row = grid.AddRow(itemData);
     grid.SetCellText(row, 1, text);
     return row;
+}
+
+void RemoveRowsOf(Grid& grid, const std::vector<Long>& itemData)
+{
+    const std::unordered_set<Long> gone(itemData.begin(), itemData.end());
+    std::vector<int> rows;
+    for (int row = 1; row <= grid.Rows(); ++row)
+        if (gone.contains(grid.RowItemData(row)))
+            rows.push_back(row);
+    grid.RemoveRows(rows);
 }
 
 bool AnySelectedCol(int row, const Grid& grid)

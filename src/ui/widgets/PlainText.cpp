@@ -8,5 +8,6 @@ QString PlainText(const QPlainTextEdit& box)
 {
     // The raw text: the plain one would turn hard blanks into soft ones.
     QString text = box.document()->toRawText();
-    return text.replace(QChar(QChar::ParagraphSeparator), u"\r\n"_s);
+    text.replace(QChar(QChar::ParagraphSeparator), u"\r\n"_s);
+    return text.replace(QChar(QChar::LineSeparator), u"\r\n"_s); // Shift+Enter
 }

@@ -98,6 +98,25 @@ public:
             return;
         }
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (element == PE_IndicatorRadioButton || element == PE_IndicatorCheckBox)
+            DrawRim(element == PE_IndicatorRadioButton, *option, *painter);
+    }
+
+    /// Fusion's own rim around an option is darker than its ground, and can't be seen on a dark one.
+    static void DrawRim(bool round, const QStyleOption& option, QPainter& painter)
+    {
+        if (option.palette.color(QPalette::Window).lightness() >= 128)
+            return;
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(option.palette.color(QPalette::PlaceholderText));
+        painter.setBrush(Qt::NoBrush);
+        const QRectF rim = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+        if (round)
+            painter.drawEllipse(rim);
+        else
+            painter.drawRect(rim);
+        painter.restore();
     }
 
     QIcon standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const override

@@ -4,6 +4,7 @@
 #include "core/Dates.h"
 #include "core/Format.h"
 #include "core/Trap.h"
+#include "core/User.h"
 #include "ui/widgets/Forms.h"
 #include "ui/widgets/HoverButtonArray.h"
 
@@ -37,7 +38,9 @@ frmCalendar::frmCalendar(const QString& caption, const QDate& value)
     connect(buttons, &HoverButtonArray::Click, this, &frmCalendar::cmdButton_Click);
     connect(m_calendar, &QCalendarWidget::activated, this, &frmCalendar::OkClick);
     const int room = screen()->availableSize().width() - 40;
-    setMinimumWidth(std::min(fontMetrics().horizontalAdvance(caption) + TitleBarRoom, room));
+    // On the calendar, not on the window: a window with a width of its own no longer keeps its layout's smallest
+    // height.
+    m_calendar->setMinimumWidth(std::max(320, std::min(fontMetrics().horizontalAdvance(caption) + TitleBarRoom, room)));
     m_calendar->setFocus();
     CenterForm(*this);
 }
@@ -49,7 +52,7 @@ void frmCalendar::DressCalendar(const QDate& value)
     m_calendar->setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
     m_calendar->setFirstDayOfWeek(Qt::Sunday);
     m_calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    m_calendar->setMinimumSize(320, 240);
+    m_calendar->setMinimumHeight(240);
     // Red is the colour of what is due; a Sunday is not.
     m_calendar->setWeekdayTextFormat(Qt::Saturday, {});
     m_calendar->setWeekdayTextFormat(Qt::Sunday, {});
@@ -110,5 +113,6 @@ QString AskForDate(const QString& caption, const QDate& value)
 {
     frmCalendar form(caption, value);
     form.ShowModal(Forms::Active());
-    return form.Reply();
+    gReturnValue = form.Reply();
+    return gReturnValue;
 }

@@ -29,6 +29,5 @@ private:
     QString m_reply;
 };
 
-/// Shows frmCalendar and waits for its reply: "mm/dd/yyyy", "" where the person cancelled. It belongs into
-/// gReturnValue.
-[[nodiscard]] QString AskForDate(const QString& caption, const QDate& value);
+/// Shows frmCalendar and waits for its reply: "mm/dd/yyyy", "" where the person cancelled; gReturnValue is the same.
+QString AskForDate(const QString& caption, const QDate& value);

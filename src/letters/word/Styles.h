@@ -1,0 +1,14 @@
+#pragma once
+
+#include "letters/word/LabelSheet.h"
+
+#include <optional>
+#include <QByteArray>
+
+namespace Word {
+
+/// The styles of a document; with those of a label's text where it has labels.
+[[nodiscard]] QByteArray StylesPart(const std::optional<LabelSheet>& labels);
+[[nodiscard]] QByteArray SettingsPart();
+
+} // namespace Word
