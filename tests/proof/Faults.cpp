@@ -40,18 +40,17 @@ Undo ReadOnly(const QString& path)
     return AtTheEnd([=] { QFile::setPermissions(path, before); });
 }
 
-/// No file of this process grows beyond the size that the database has now.
-Undo FullDisk(const FreshDatabase& fresh)
+} // namespace
+
+Undo FullDisk(const FreshDatabase& fresh, qint64 room)
 {
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit before{};
     getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit now{static_cast<rlim_t>(QFileInfo(fresh.DatabaseFile()).size()), before.rlim_max};
+    const rlimit now{static_cast<rlim_t>(QFileInfo(fresh.DatabaseFile()).size() + room), before.rlim_max};
     setrlimit(RLIMIT_FSIZE, &now);
     return AtTheEnd([before] { setrlimit(RLIMIT_FSIZE, &before); });
 }
-
-} // namespace
 
 std::shared_ptr<Database> LockedBy(const FreshDatabase& fresh, const QByteArray& transaction)
 {

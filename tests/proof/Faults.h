@@ -21,5 +21,8 @@ struct Fault
 /// Makes a column "fault" of the test's data, and a row for each.
 void AddFaults();
 
+/// No file of this process grows beyond the size that the database has now, and `room` bytes more.
+[[nodiscard]] Undo FullDisk(const FreshDatabase& fresh, qint64 room = 0);
+
 /// Another program has the file open and is in the middle of a transaction.
 [[nodiscard]] std::shared_ptr<Database> LockedBy(const FreshDatabase& fresh, const QByteArray& transaction);

@@ -105,16 +105,11 @@ void tst_StoreFaults::AFileThatIsLockedAtTheStartIsAnErrorAndOpensLater()
 }
 
 /// Writes rows into a file that may grow by `room` bytes until none fits, and gives how many are in the file then.
-qsizetype RowsThatFit(rlim_t room, bool sharing)
+qsizetype RowsThatFit(qint64 room, bool sharing)
 {
     FreshDatabase fresh;
     {
-        std::signal(SIGXFSZ, SIG_IGN);
-        rlimit before{};
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit now{static_cast<rlim_t>(QFileInfo(fresh.DatabaseFile()).size()) + room, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &now);
-        const Undo undo = AtTheEnd([before] { setrlimit(RLIMIT_FSIZE, &before); });
+        const Undo undo = FullDisk(fresh, room);
         const auto fill = [] {
             for (int i = 0; i < 3000; ++i)
                 gConn.Execute(u"Insert into Categories (Description) Values ('%1')"_s.arg(QString(5000, u'n')));
@@ -132,7 +127,7 @@ qsizetype RowsThatFit(rlim_t room, bool sharing)
 void tst_StoreFaults::ADiskThatFillsUpKeepsWhatSharedACommit()
 {
     // Full at the first commit, and while the engine writes ahead of it.
-    for (const rlim_t room : {300'000, 4'000'000}) {
+    for (const qint64 room : {300'000, 4'000'000}) {
         const qsizetype alone = RowsThatFit(room, false);
         QVERIFY(alone > 20);
         QCOMPARE(RowsThatFit(room, true), alone);
