@@ -13,6 +13,9 @@ void RegisterNewContact(int contacts);
 /// The contact list with all contacts in it; opened on a twentieth of all contacts; and a twentieth of its rows, spread
 /// over all of it, deleted. Against plain walks and the bare deletion.
 void RegisterLists(int contacts);
+/// A search over all contacts and over all properties, without the listing, against the sqlite3 shell; the listing of all
+/// that there is, against plain rows; and the memory of a cell of that list.
+void RegisterSearch(int contacts);
 /// Both panels filled with the alerts of all contacts, and one more alert added to a full one, against one pass that
 /// formats the same cells.
 void RegisterAlerts(int contacts);

@@ -8,6 +8,7 @@
 namespace {
 
 constexpr double memoryLimit = 4096;  // bytes for a contact
+constexpr double cellLimit = 64;      // bytes for a cell of the found list, beside the texts of the records
 constexpr double newContactLimit = 4; // from the smallest size to the largest
 
 constexpr auto program = "program";
@@ -105,6 +106,8 @@ std::vector<Figures::Line> Figures::Lines(const std::vector<int>& sizes) const
         AddNewContact(lines, sizes);
     if (WasRun("Memory"))
         AddMemory(lines, sizes);
+    for (const char* list : {"Contacts", "Properties"})
+        AddCells(lines, sizes, list);
     return lines;
 }
 
@@ -127,6 +130,17 @@ void Figures::AddMemory(std::vector<Line>& lines, const std::vector<int>& sizes)
         const double theirs = At("Memory", yardstick, contacts);
         lines.push_back({Text("Memory of a contact, %d", contacts), Text("%.0f bytes", ours),
                          Text("%.0f bytes", theirs), ours / 1024, memoryLimit / 1024});
+    }
+}
+
+void Figures::AddCells(std::vector<Line>& lines, const std::vector<int>& sizes, const std::string& list) const
+{
+    if (!WasRun("ListMemory" + list))
+        return;
+    for (const int contacts : sizes) {
+        const double bytes = At("ListMemory" + list, program, contacts);
+        lines.push_back(
+            {Text("Bytes of a cell, %s, %d", list.c_str(), contacts), Text("%.0f bytes", bytes), "", bytes, cellLimit});
     }
 }
 

@@ -33,6 +33,7 @@ int main(int argc, char** argv)
         RegisterMemory(contacts);
         RegisterNewContact(contacts);
         RegisterLists(contacts);
+        RegisterSearch(contacts);
         RegisterAlerts(contacts);
         RegisterTransfer(contacts);
         RegisterProperties(contacts);

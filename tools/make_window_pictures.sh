@@ -10,6 +10,7 @@ source packaging/common.sh
 
 # What the documents show.
 in_documents=(splash main main-empty list contact contact-new notes move-contact-chosen move-category ask
+    search-contacts search-properties search-value search-date search-amount
     alerts alerts-editing alerts-menu-gridalerts alert-contacts calendar
     feedback feedback-review
     property-list property property-date property-new

@@ -12,6 +12,7 @@
 #include "organise/CategoryTree.h"
 #include "organise/frmList.h"
 #include "organise/Rolodex.h"
+#include "search/SearchPage.h"
 #include "transfer/ExportData.h"
 #include "transfer/ImportData.h"
 #include "ui/frame/Menus.h"
@@ -30,6 +31,7 @@ Composition::Composition()
     m_main.AddContactsPanel(m_tree, 1);
     m_main.AddContactsPanel(m_rolodex, 1);
     m_main.AddContactsPanel(m_alerts, 1);
+    m_main.SetPage(frmMain::Tab::Search, new SearchPage(m_main));
     m_main.SetPage(frmMain::Tab::Letters, m_letters);
     PlugOpeners();
     PlugSelectedMenu();
@@ -73,6 +75,10 @@ void Composition::PlugSelectedMenu()
     menus.PlugOpener(u"mnuSetNewAlert"_s, &m_main, gOpeners.SetNewAlert);
     menus.PlugOpener(u"mnuSelectedToRolodex"_s, &m_main, gOpeners.SelectedToRolodex);
     menus.PlugOpener(u"mnuCreateWord"_s, &m_main, gOpeners.WordFileOfSelected);
+    menus.PlugOpener(u"mnuSendFoundContactToWord"_s, &m_main, gOpeners.WordFileOfFoundContacts);
+    menus.PlugOpener(u"mnuHilitedContactsWord"_s, &m_main, gOpeners.WordFileOfHilitedContacts);
+    menus.PlugOpener(u"mnuCreatePropWordFile"_s, &m_main, gOpeners.WordFileOfFoundProperties);
+    menus.PlugOpener(u"mnuHilitedPropertiesWord"_s, &m_main, gOpeners.WordFileOfHilitedProperties);
     menus.PlugOpener(u"mnuExportSelectedContacts"_s, &m_main, gOpeners.ExportSelected);
     menus.PlugOpener(u"mnuMaintenanceImport"_s, &m_main, gOpeners.Import);
     menus.PlugOpener(u"mnuBackup"_s, &m_main, gOpeners.Backup);

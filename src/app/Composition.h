@@ -12,7 +12,8 @@ class Rolodex;
 ///   CategoryTree  -> first tab, mnuCategory
 ///   Rolodex       -> first tab
 ///   AlertPanels   -> first tab, mnuAlertGrid
-///   FormLetters   -> tab Letters and Labels
+///   SearchPage    -> second tab, mnuFoundContacts, mnuFoundProperties and their popups
+///   FormLetters   -> third tab
 ///   frmList, frmContact, frmNotes, frmProperty, frmPropertyList, frmAlerts, ManageAlerts, SetNewAlert_Click  -> openers
 ///
 /// What is not plugged in stands disabled in the menus.

@@ -2,22 +2,26 @@
 
 #include "core/RunTimeError.h"
 
-#include <list>
+#include <bit>
+#include <memory>
 #include <unordered_map>
 #include <vector>
 
-/// A map that keeps the order in which its keys came: assigning to a key keeps its place, removing and adding it again moves
-/// it to the end. Looking up, adding and removing cost the same at any size. Reading a missing key adds it with an empty
-/// value, which is meant; `Find` and `Exists` do not.
+/// A map that keeps the order in which its keys came: assigning to a key keeps its place, removing and adding it again
+/// moves it to the end. Looking up, adding and removing cost the same at any size. Reading a missing key adds it with
+/// an empty value, which is meant; `Find` and `Exists` do not. An item stays where it is in memory until its key is
+/// removed.
 template <typename Key, typename Value>
 class Dictionary
 {
+    /// The entries lie side by side in blocks that double in size, so that a walk over all reads packed memory: from a
+    /// linked list, 100,000 of them are as many waits for a far place. What was removed leaves a gap until all is gone.
     struct Entry
     {
-        Key EntryKey;
-        Value Item;
+        Key EntryKey{};
+        Value Item{};
+        bool IsThere = false;
     };
-    using List = std::list<Entry>;
 
 public:
     /// Raises 457 where the key is there already.
@@ -32,19 +36,19 @@ public:
     [[nodiscard]] Value& Item(const Key& key)
     {
         const auto found = m_index.find(key);
-        return found != m_index.end() ? found->second->Item : Append(key, Value{});
+        return found != m_index.end() ? At(found->second).Item : Append(key, Value{});
     }
 
     /// The item of a key, or null.
     [[nodiscard]] Value* Find(const Key& key)
     {
         const auto found = m_index.find(key);
-        return found != m_index.end() ? &found->second->Item : nullptr;
+        return found != m_index.end() ? &At(found->second).Item : nullptr;
     }
     [[nodiscard]] const Value* Find(const Key& key) const
     {
         const auto found = m_index.find(key);
-        return found != m_index.end() ? &found->second->Item : nullptr;
+        return found != m_index.end() ? &At(found->second).Item : nullptr;
     }
 
     [[nodiscard]] bool Exists(const Key& key) const { return m_index.contains(key); }
@@ -55,60 +59,81 @@ public:
         const auto found = m_index.find(key);
         if (found == m_index.end())
             throw RunTimeError(ErrorNumber::DictionaryRemove);
-        m_entries.erase(found->second);
+        At(found->second) = Entry();
         m_index.erase(found);
+        if (m_index.empty())
+            RemoveAll();
     }
 
     void RemoveAll()
     {
         m_index.clear();
-        m_entries.clear();
+        m_blocks.clear();
+        m_used = 0;
     }
 
-    [[nodiscard]] qsizetype Count() const { return static_cast<qsizetype>(m_entries.size()); }
-    [[nodiscard]] bool IsEmpty() const { return m_entries.empty(); }
+    [[nodiscard]] qsizetype Count() const { return static_cast<qsizetype>(m_index.size()); }
+    [[nodiscard]] bool IsEmpty() const { return m_index.empty(); }
 
     /// Copies, safe to walk while the dictionary changes.
     [[nodiscard]] std::vector<Key> Keys() const
     {
         std::vector<Key> keys;
-        keys.reserve(m_entries.size());
-        for (const Entry& entry : m_entries)
-            keys.push_back(entry.EntryKey);
+        keys.reserve(m_index.size());
+        ForEach([&keys](const Key& key, const Value&) { keys.push_back(key); });
         return keys;
     }
     [[nodiscard]] std::vector<Value> Items() const
     {
         std::vector<Value> items;
-        items.reserve(m_entries.size());
-        for (const Entry& entry : m_entries)
-            items.push_back(entry.Item);
+        items.reserve(m_index.size());
+        ForEach([&items](const Key&, const Value& item) { items.push_back(item); });
         return items;
     }
 
-    /// Calls `visit(key, item)` in the order of insertion, without copies; the walk must not change the dictionary. A visit
-    /// that returns a bool ends the walk with false.
+    /// Calls `visit(key, item)` in the order of insertion, without copies; the walk must not change the dictionary. A
+    /// visit that returns a bool ends the walk with false.
     template <typename Visit>
     void ForEach(Visit&& visit) const
     {
-        for (const Entry& entry : m_entries) {
-            if constexpr (std::is_same_v<std::invoke_result_t<Visit, const Key&, const Value&>, bool>) {
-                if (!visit(entry.EntryKey, entry.Item))
-                    return;
-            } else {
-                visit(entry.EntryKey, entry.Item);
+        for (size_t block = 0; FirstOf(block) < m_used; ++block) {
+            const Entry* entries = m_blocks[block].get();
+            for (size_t i = 0; i < SizeOf(block) && FirstOf(block) + i < m_used; ++i) {
+                if (!entries[i].IsThere)
+                    continue;
+                if constexpr (std::is_same_v<std::invoke_result_t<Visit, const Key&, const Value&>, bool>) {
+                    if (!visit(entries[i].EntryKey, entries[i].Item))
+                        return;
+                } else {
+                    visit(entries[i].EntryKey, entries[i].Item);
+                }
             }
         }
     }
 
 private:
-    Value& Append(const Key& key, Value item)
+    // Block n holds the positions from 2^n - 1 on, 2^n of them.
+    [[nodiscard]] static size_t SizeOf(size_t block) { return size_t{1} << block; }
+    [[nodiscard]] static size_t FirstOf(size_t block) { return SizeOf(block) - 1; }
+    [[nodiscard]] static size_t BlockOf(size_t position) { return std::bit_width(position + 1) - 1U; }
+
+    [[nodiscard]] Entry& At(size_t position) const
     {
-        m_entries.push_back({key, std::move(item)});
-        m_index.emplace(key, std::prev(m_entries.end()));
-        return m_entries.back().Item;
+        const size_t block = BlockOf(position);
+        return m_blocks[block][position - FirstOf(block)];
     }
 
-    List m_entries;
-    std::unordered_map<Key, typename List::iterator> m_index;
+    Value& Append(const Key& key, Value item)
+    {
+        if (BlockOf(m_used) == m_blocks.size())
+            m_blocks.push_back(std::make_unique<Entry[]>(SizeOf(m_blocks.size())));
+        m_index.emplace(key, m_used);
+        Entry& entry = At(m_used++);
+        entry = {key, std::move(item), true};
+        return entry.Item;
+    }
+
+    std::vector<std::unique_ptr<Entry[]>> m_blocks;
+    size_t m_used = 0; ///< so many positions, the gaps among them
+    std::unordered_map<Key, size_t> m_index;
 };

@@ -148,6 +148,12 @@ QString PropertyText(const PropDetail& property, PropertyField field, PropertyFo
     return number == 0 && form == PropertyForm::ListNo0 ? QString() : CStr(number);
 }
 
+const QString* PropertyStoredText(const PropDetail& property, PropertyField field)
+{
+    const auto* text = std::get_if<QString PropDetail::*>(&RuleOf(field).Value);
+    return text != nullptr ? &(property.**text) : nullptr;
+}
+
 Currency PropertyMoney(const PropDetail& property, PropertyField field)
 {
     const auto* amount = std::get_if<Currency PropDetail::*>(&RuleOf(field).Value);

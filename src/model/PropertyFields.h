@@ -73,6 +73,9 @@ enum class PropertyForm
 [[nodiscard]] QString PropertyText(const PropDetail& property, PropertyField field,
                                    PropertyForm form = PropertyForm::List);
 
+/// The text itself of a Text, Flag or Date field; null for any other.
+[[nodiscard]] const QString* PropertyStoredText(const PropDetail& property, PropertyField field);
+
 /// The amount of a Money field; raises 13 for any other.
 [[nodiscard]] Currency PropertyMoney(const PropDetail& property, PropertyField field);
 

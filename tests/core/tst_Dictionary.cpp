@@ -25,6 +25,30 @@ private slots:
         QCOMPARE(names.Keys(), (std::vector{10, 20, 30}));
     }
 
+    void ManyKeysKeepTheirOrderAndTheirPlaces()
+    {
+        Dictionary<int, QString> names;
+        names.Add(1, u"1"_s);
+        const QString* first = names.Find(1);
+        for (int key = 2; key <= 1000; ++key)
+            names.Add(key, QString::number(key));
+        for (int key = 2; key <= 1000; key += 2)
+            names.Remove(key);
+        names.Add(2, u"again"_s);
+        QCOMPARE(names.Find(1), first);
+        QCOMPARE(names.Count(), 501);
+        std::vector<int> odd;
+        for (int key = 1; key <= 1000; key += 2)
+            odd.push_back(key);
+        odd.push_back(2);
+        QCOMPARE(names.Keys(), odd);
+        for (const int key : odd)
+            names.Remove(key);
+        QVERIFY(names.Keys().empty());
+        names.Add(5, u"5"_s);
+        QCOMPARE(names.Items(), std::vector{u"5"_s});
+    }
+
     void ReadingAMissingKeyAddsIt()
     {
         Dictionary<int, QString> names;

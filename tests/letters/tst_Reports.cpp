@@ -34,6 +34,7 @@ public:
     void MarkSelected(Long, bool) override {}
     void RedrawContact(const Contact&) override {}
     void RemoveContacts(const std::vector<Long>&) override {}
+    void RemoveProperties(const std::vector<Long>&) override {}
     void ShowHowManyFound() override {}
     [[nodiscard]] int Rows() const override { return 0; }
     [[nodiscard]] int SelectedRow() const override { return 0; }

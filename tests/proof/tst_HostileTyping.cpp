@@ -8,6 +8,7 @@
 #include "editors/Editors.h"
 #include "editors/SheetEditor.h"
 #include "model/Contact.h"
+#include "model/ContactFields.h"
 #include "model/Main.h"
 #include "organise/CategoryTree.h"
 #include "organise/CategoryTreeView.h"
@@ -146,7 +147,11 @@ QStringList tst_HostileTyping::SaveContact(const Row (&rows)[Count], const QStri
     QStringList shown;
     gEditMode = EditMode::ModifyContact;
     // A fresh one, as after a start: what was refused before would be refused again.
-    curContact = std::make_shared<Contact>(*ContactAt(1));
+    curContact = std::make_shared<Contact>();
+    for (int field = 0; field < ContactFieldCount; ++field)
+        SetContactText(*curContact, ContactField{field}, ContactText(*ContactAt(1), ContactField{field}));
+    curContact->CategoryID = ContactAt(1)->CategoryID;
+    curContact->subCategoryID = ContactAt(1)->subCategoryID;
     curContact->RecID = 2;
     const WhenFormOpens editor(u"frmContact"_s, [&](Form& form) {
         auto& sheet = *form.findChild<SheetEditor*>();

@@ -98,8 +98,8 @@ Grid& Office::OpenList()
 
 const QList<OfficeWindow>& Office::Windows()
 {
-    static const QList<OfficeWindow> windows = DeskWindows() + PropertyWindows() + AlertWindows() + LettersWindows() +
-                                               ReportWindows() + FeedbackWindows();
+    static const QList<OfficeWindow> windows = DeskWindows() + PropertyWindows() + AlertWindows() + SearchWindows() +
+                                               LettersWindows() + ReportWindows() + FeedbackWindows();
     return windows;
 }
 

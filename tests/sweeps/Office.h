@@ -31,6 +31,7 @@ struct OfficeWindow
 [[nodiscard]] QList<OfficeWindow> PropertyWindows();
 [[nodiscard]] QList<OfficeWindow> LettersWindows();
 [[nodiscard]] QList<OfficeWindow> ReportWindows();
+[[nodiscard]] QList<OfficeWindow> SearchWindows();
 
 /// The running program with real windows and real boxes, on a file with this in it:
 ///   1 Buyers   1 First home: 1 Ann Lee with a property and an alert of today, 2 Bob M Ray, 3 Cy Day

@@ -64,3 +64,4 @@ void TakeFeedback(Run& run);
 void TakeProperties(Run& run);
 void TakeLetters(Run& run);
 void TakeReports(Run& run);
+void TakeSearch(Run& run);

@@ -46,6 +46,7 @@ void TakeFull(Album& album, const QString& folder)
     TakeProperties(run);
     TakeLetters(run);
     TakeReports(run);
+    TakeSearch(run);
 }
 
 void TakeEmpty(Album& album, const QString& folder)

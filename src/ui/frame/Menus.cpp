@@ -87,6 +87,19 @@ constexpr Line lines[]{
     {Kind::Item, "mnuDeleteFoundProp"_L1, "Delete All Found Properties"_L1},
     {Kind::Item, "mnuCreatePropWordFile"_L1, "Send to Word "_L1},
 
+    {Kind::Popup, "mnuHilitedContacts"_L1, "Highlighted Contacts"_L1},
+    {Kind::Item, "mnuViewHighlitedContact"_L1, "View"_L1},
+    {Kind::Item, "mnuDeleteHilitedContacts"_L1, "Delete"_L1},
+    {Kind::Item, "mnuClearHilitedContacts"_L1, "Remove"_L1},
+    {Kind::Item, "mnuSelectHilitedContacts"_L1, "Select"_L1},
+    {Kind::Item, "mnuUnselectHilitedContacts"_L1, "Unselect"_L1},
+    {Kind::Item, "mnuHilitedContactsWord"_L1, "Send to a Word File"_L1},
+
+    {Kind::Popup, "mnuHilitedProperties"_L1, "Hilighted Properties"_L1},
+    {Kind::Item, "mnuDeleteHilitedProperties"_L1, "Delete"_L1},
+    {Kind::Item, "mnuClearHilitedProperties"_L1, "Remove"_L1},
+    {Kind::Item, "mnuHilitedPropertiesWord"_L1, "Send to a Word File"_L1},
+
     {Kind::Top, "mnuMaintenance"_L1, "&Maintenance"_L1},
     {Kind::Item, "mnuMaintenanceImport"_L1, "Import Contacts"_L1},
     {Kind::Item, "mnuBackup"_L1, "Backup Database"_L1},

@@ -4,6 +4,7 @@
 #include "ui/widgets/GridBackground.h"
 
 #include <memory>
+#include <optional>
 #include <QColor>
 #include <QString>
 #include <QTableView>
@@ -31,6 +32,8 @@ struct GridColumn
     Qt::Alignment Alignment = Qt::AlignLeft | Qt::AlignVCenter;
     bool Visible = true;
     SortType Sort = SortType::Text;
+    /// Where the header's text stands; without a place of its own it stands as the cells' do.
+    std::optional<Qt::Alignment> HeaderAlignment = {};
 };
 
 /// The list of every window. Rows and columns count from 1; each row carries the ID of its record as item data.

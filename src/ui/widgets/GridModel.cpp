@@ -59,7 +59,8 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     case Qt::AccessibleTextRole:
         return column.Header.isEmpty() ? column.Key : column.Header;
     case Qt::TextAlignmentRole:
-        return QVariant::fromValue(pictured ? Qt::Alignment(Qt::AlignCenter) : column.Alignment);
+        return QVariant::fromValue(pictured ? Qt::Alignment(Qt::AlignCenter)
+                                            : column.HeaderAlignment.value_or(column.Alignment));
     default:
         return {};
     }

@@ -1,0 +1,352 @@
+#include "search/FoundList.h"
+
+#include "core/Convert.h"
+#include "core/Trap.h"
+#include "model/Contact.h"
+#include "model/Main.h"
+#include "model/PropDetail.h"
+#include "search/CriteriaPanel.h"
+#include "search/FoundColumns.h"
+#include "ui/frame/frmMain.h"
+#include "ui/frame/Menus.h"
+#include "ui/widgets/Grid.h"
+#include "ui/widgets/HoverButton.h"
+#include "ui/widgets/HoverButtonArray.h"
+#include "ui/widgets/Theme.h"
+
+#include <numeric>
+#include <QLabel>
+#include <QMenu>
+#include <QVBoxLayout>
+#include <unordered_set>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int nameColumn = 1;
+constexpr int clearButton = 4;
+
+/// What the colours of the heading read on, in both schemes.
+constexpr QColor headingGround(0x11, 0x16, 0x1D);
+
+} // namespace
+
+FoundList::FoundList(frmMain& window, const CriteriaPanel& criteria)
+    : m_window(window), m_criteria(criteria), m_lblFound(new QLabel(this)), m_grid(new Grid(this))
+{
+    m_grid->setObjectName(u"GridFound"_s);
+    m_grid->setAccessibleName(u"Search Results"_s);
+    m_grid->setMinimumHeight(100);
+    BuildLayout();
+    ShowAtRest();
+    ConnectGrid();
+    PlugMenus();
+}
+
+FoundList::~FoundList() = default;
+
+void FoundList::BuildLayout()
+{
+    m_lblFound->setObjectName(u"lblFound"_s);
+    m_lblFound->setAutoFillBackground(true);
+    m_lblFound->setContentsMargins(Theme::Spacing, Theme::Spacing / 2, Theme::Spacing, Theme::Spacing / 2);
+    QFont font = m_lblFound->font();
+    font.setBold(true);
+    m_lblFound->setFont(font);
+    m_lblFound->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_lblFound->setBuddy(m_grid);
+    auto* heading = new QHBoxLayout;
+    heading->setSpacing(Theme::Spacing);
+    heading->addWidget(m_lblFound, 1);
+    auto* buttons = new HoverButtonArray(*this, *heading, {{clearButton, u"Clear"_s, u"Clear"_s}}, u"cmdbutton"_s);
+    buttons->Button(clearButton)->SetCaptionBeside(true);
+    connect(buttons, &HoverButtonArray::Click, this, [this] {
+        ShoWait(ShowsProperties() ? u"Property Search"_s : u"Contact search"_s);
+        Clear();
+    });
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(Theme::Spacing);
+    layout->addLayout(heading);
+    layout->addWidget(m_grid);
+    setTabOrder(m_grid, buttons->Button(clearButton));
+}
+
+bool FoundList::ShowsProperties() const
+{
+    return m_criteria.Mode() == SearchMode::Properties;
+}
+
+// The columns.
+
+void FoundList::LoadContactFoundCols()
+{
+    Trap(u"frmMain LoadContactFoundCols Error #"_s, Icon::Critical,
+         [this] { MakeColumns(FoundContactColumns(), 1, u"Name"); });
+}
+
+void FoundList::LoadPropFoundCols()
+{
+    Trap(u"frmMain LoadPropFoundCols Error #"_s, Icon::Critical,
+         [this] { MakeColumns(FoundPropertyColumns(), 2, u"ContactName"); });
+}
+
+void FoundList::MakeColumns(const std::vector<GridColumn>& columns, int known, QStringView key)
+{
+    if (m_grid->Columns() > 0 && m_grid->Column(known).Key != key)
+        m_grid->ClearWithColumns();
+    if (m_grid->Columns() > 0)
+        return;
+    for (const GridColumn& column : columns)
+        m_grid->AddColumn(column);
+}
+
+// A search.
+
+void FoundList::Begin()
+{
+    HideFoundMenus();
+    m_lblFound->clear();
+    if (ShowsProperties()) {
+        LoadPropFoundCols();
+        m_texts = std::make_unique<FoundPropertyTexts>();
+    } else {
+        LoadContactFoundCols();
+    }
+    m_grid->Clear();
+    m_grid->SetRedraw(false);
+}
+
+void FoundList::Take(const Contact& contact)
+{
+    AddContactToFoundGrid(m_grid->AddRow(), contact);
+}
+
+void FoundList::Take(const PropDetail& property)
+{
+    AddPropToFoundGrid(m_grid->AddRow(property.RecID), property);
+}
+
+void FoundList::End()
+{
+    m_texts.reset();
+    if (ShowsProperties()) {
+        AddBogusPropToFoundList();
+    } else {
+        // The contact that was found last is the selected one.
+        if (m_grid->Rows() > 0)
+            m_grid->SetSelectedRow(m_grid->Rows());
+        AddBogusContactToFoundGrid();
+    }
+    m_grid->SetRedraw(true);
+    if (m_grid->SelectedRow() > 0)
+        m_grid->EnsureVisible(m_grid->SelectedRow(), nameColumn);
+    ShowHowManyFound();
+}
+
+void FoundList::AddContactToFoundGrid(int row, const Contact& contact)
+{
+    Trap(u"frmMain AddContactToFoundGrid Error #"_s, Icon::Critical, [&] {
+        for (int column = 1; column <= m_grid->Columns(); ++column) {
+            m_grid->SetCellText(row, column, FoundContactText(contact, column));
+            m_grid->AutoWidthColumn(column);
+        }
+        if (contact.Selected)
+            MarkRow(row, true);
+        m_grid->SetRowItemData(row, contact.RecID);
+    });
+}
+
+void FoundList::AddPropToFoundGrid(int row, const PropDetail& property)
+{
+    Trap(u"frmMain AddPropToFoundGrid Error #"_s, Icon::Critical, [&] {
+        for (const int column : FoundPropertyFilling()) {
+            m_grid->SetCellText(row, column, m_texts->Text(property, column));
+            m_grid->AutoWidthColumn(column);
+        }
+        m_grid->SetRowItemData(row, property.RecID);
+    });
+}
+
+void FoundList::AddBogusContactToFoundGrid()
+{
+    Trap(u"frmMain AddBogusContact Error #"_s, Icon::Critical, [this] {
+        std::vector<int> columns(static_cast<size_t>(m_grid->Columns()));
+        std::iota(columns.begin(), columns.end(), 1);
+        AddSpacer(columns);
+    });
+}
+
+void FoundList::AddBogusPropToFoundList()
+{
+    Trap(u"frmMain AddBogusPropToFoundList Error #"_s, Icon::Critical, [this] {
+        std::vector<int> columns = FoundPropertyFilling();
+        std::erase_if(columns, [this](int column) { return !m_grid->Column(column).Visible; });
+        AddSpacer(columns);
+    });
+}
+
+void FoundList::AddSpacer(const std::vector<int>& columns)
+{
+    constexpr int blanks = 25;
+    const QString wide = u'.' + QString(blanks, u' ') + u'.';
+    const int row = m_grid->AddRow();
+    for (const int column : columns) {
+        m_grid->SetCellText(row, column, wide);
+        m_grid->AutoWidthColumn(column);
+    }
+    m_grid->SetRowVisible(row, false);
+}
+
+void FoundList::Clear()
+{
+    m_grid->Clear();
+    ShowAtRest();
+    HideFoundMenus();
+}
+
+// The count.
+
+int FoundList::Count() const
+{
+    return std::max(m_grid->Rows() - 1, 0);
+}
+
+int FoundList::FirstVisibleRow() const
+{
+    int row = 1;
+    while (!m_grid->RowVisible(row))
+        ++row;
+    return row;
+}
+
+void FoundList::ShowHowManyFound()
+{
+    Trap(u"frmMain ShowHowManyFound Error #"_s, Icon::Critical, [this] {
+        const int count = Count();
+        const QString one = ShowsProperties() ? u"property "_s : u"contact "_s;
+        const QString many = ShowsProperties() ? u"properties "_s : u"contacts "_s;
+        ShowFoundMenu(count > 0);
+        ShowHeading((count > 0 ? CStr(Long{count}) : u"No"_s) + u' ' + (count == 1 ? one : many) + u"found"_s,
+                    count > 0 ? Theme::LightBlue : Theme::Red);
+        if (count > 0 && ShowsProperties())
+            TakeProperty(FirstVisibleRow());
+    });
+}
+
+void FoundList::ShowFoundMenu(bool shown)
+{
+    const QString menu = ShowsProperties() ? u"mnuFoundProperties"_s : u"mnuFoundContacts"_s;
+    m_window.MainMenus().Menu(menu).menuAction()->setVisible(shown);
+}
+
+void FoundList::HideFoundMenus()
+{
+    for (const QString& menu : {u"mnuFoundContacts"_s, u"mnuFoundProperties"_s})
+        m_window.MainMenus().Menu(menu).menuAction()->setVisible(false);
+}
+
+void FoundList::ShowAtRest()
+{
+    ShowHeading(u"Search Results"_s, Theme::LightBlue);
+}
+
+void FoundList::ShowHeading(const QString& text, const QColor& color)
+{
+    QPalette palette = m_lblFound->palette();
+    palette.setColor(QPalette::Window, headingGround);
+    palette.setColor(QPalette::WindowText, color);
+    m_lblFound->setPalette(palette);
+    m_lblFound->setText(text);
+}
+
+// The rows, as others see them.
+
+std::vector<Long> FoundList::Records(SearchMode mode, const std::function<bool(int row)>& wanted) const
+{
+    std::vector<Long> records;
+    if (m_criteria.Mode() != mode)
+        return records;
+    for (int row = 1; row <= m_grid->Rows(); ++row) {
+        if (m_grid->RowVisible(row) && wanted(row))
+            records.push_back(m_grid->RowItemData(row));
+    }
+    return records;
+}
+
+std::vector<Long> FoundList::FoundContacts() const
+{
+    return Records(SearchMode::Contacts, [](int) { return true; });
+}
+
+std::vector<Long> FoundList::HighlightedContacts() const
+{
+    return Records(SearchMode::Contacts, [this](int row) { return m_grid->CellSelected(row, 1); });
+}
+
+std::vector<Long> FoundList::FoundProperties() const
+{
+    return Records(SearchMode::Properties, [](int) { return true; });
+}
+
+std::vector<Long> FoundList::HighlightedProperties() const
+{
+    return Records(SearchMode::Properties, [this](int row) { return m_grid->CellSelected(row, 1); });
+}
+
+void FoundList::MarkRow(int row, bool selected)
+{
+    if (!selected) {
+        m_grid->ResetCellFont(row, nameColumn);
+        m_grid->SetCellColor(row, nameColumn, QColor());
+        return;
+    }
+    QFont boldItalic = m_grid->font();
+    boldItalic.setBold(true);
+    boldItalic.setItalic(true);
+    m_grid->SetCellFont(row, nameColumn, boldItalic);
+    m_grid->SetCellColor(row, nameColumn, Theme::Green);
+}
+
+void FoundList::MarkSelected(Long contactID, bool selected)
+{
+    if (ShowsProperties() || Count() == 0)
+        return;
+    const int row = m_grid->FindRow(contactID);
+    if (row > 0 && m_grid->RowVisible(row))
+        MarkRow(row, selected);
+}
+
+void FoundList::RedrawContact(const Contact& contact)
+{
+    if (ShowsProperties())
+        return;
+    for (int row = 1; row <= m_grid->Rows(); ++row) {
+        if (m_grid->RowItemData(row) == contact.RecID && m_grid->RowVisible(row))
+            AddContactToFoundGrid(row, contact);
+    }
+}
+
+void FoundList::RemoveRowsOf(SearchMode mode, const std::vector<Long>& ids)
+{
+    if (m_criteria.Mode() != mode)
+        return;
+    const std::unordered_set<Long> gone(ids.begin(), ids.end());
+    std::vector<int> rows;
+    for (int row = 1; row <= m_grid->Rows(); ++row) {
+        if (m_grid->RowVisible(row) && gone.contains(m_grid->RowItemData(row)))
+            rows.push_back(row);
+    }
+    m_grid->RemoveRows(rows);
+}
+
+void FoundList::RemoveContacts(const std::vector<Long>& contactIDs)
+{
+    RemoveRowsOf(SearchMode::Contacts, contactIDs);
+}
+
+void FoundList::RemoveProperties(const std::vector<Long>& propertyIDs)
+{
+    RemoveRowsOf(SearchMode::Properties, propertyIDs);
+}
