@@ -3,6 +3,7 @@
 #include "core/RunTimeError.h"
 #include "model/AddNewAlert.h"
 #include "ui/frame/Menus.h"
+#include "ui/widgets/Grid.h"
 
 #include <QAction>
 
@@ -19,24 +20,6 @@ std::vector<Long> PropertiesOf(Long contact)
 {
     return ContactAt(contact)->Properties.Keys();
 }
-
-/// A list of found contacts of which two are highlighted.
-class TwoHighlighted final : public FoundFace
-{
-public:
-    [[nodiscard]] std::vector<Long> FoundContacts() const override { return {1, 2, 3}; }
-    [[nodiscard]] std::vector<Long> HighlightedContacts() const override { return {1, 3}; }
-    void MarkSelected(Long, bool) override {}
-    void RedrawContact(const Contact&) override {}
-    void RemoveContacts(const std::vector<Long>&) override {}
-    void RemoveProperties(const std::vector<Long>&) override {}
-    [[nodiscard]] std::vector<Long> FoundProperties() const override { return {}; }
-    [[nodiscard]] std::vector<Long> HighlightedProperties() const override { return {}; }
-    void ShowHowManyFound() override {}
-
-private:
-    Face<FoundFace>::Registration m_face{*this};
-};
 
 } // namespace
 
@@ -210,13 +193,29 @@ void tst_ImportedRows::TheMenuRunsEachTransfer()
 void tst_ImportedRows::TheHighlightedAreExported()
 {
     Agency agency(Agency::File::Small);
-    const TwoHighlighted found;
-    QCOMPARE(GetSelected(u"Highlighted"_s), u"1, 3"_s);
+    agency.Main().ShowTab(1);
+    QTest::qWait(0);
+    ClickOn(agency.Main(), u"cmdbutton_2"_s);
+    auto& found = Control<Grid>(agency.Main(), u"GridFound"_s);
+    QCOMPARE(Face<FoundFace>::Get()->FoundContacts().size(), 3);
+    const auto press = [&found](int row, Qt::KeyboardModifiers modifiers) {
+        const QModelIndex cell = found.model()->index(row - 1, found.columnAt(1));
+        QTest::mouseClick(found.viewport(), Qt::LeftButton, modifiers, found.visualRect(cell).center());
+    };
+    press(1, {});
+    press(3, Qt::ControlModifier);
+    const std::vector<Long> highlighted = Face<FoundFace>::Get()->HighlightedContacts();
+    QCOMPARE(highlighted.size(), 2);
+    QCOMPARE(GetSelected(u"Highlighted"_s), u"%1, %2"_s.arg(highlighted[0]).arg(highlighted[1]));
     const QString file = agency.Export(u"Highlighted"_s, u"two.xml"_s, u"Contact Export Done"_s,
                                        u"I have successfully exported your contacts."_s);
     const QByteArray contacts = SectionsOf(file)[Contacts];
     QCOMPARE(contacts.count("<z:row"), 2);
-    QVERIFY(!contacts.contains("'Bob'"));
+    for (const Long id : highlighted)
+        QVERIFY(contacts.contains(" FirstName='" + ContactAt(id)->FirstName.toUtf8() + '\''));
+    // What was found is gone with the data.
+    agency.Restore(agency.Backup(u"all.xml"_s));
+    QVERIFY(Face<FoundFace>::Get()->FoundContacts().empty());
 }
 
 void tst_ImportedRows::TheSelectionOutlivesARestore()
