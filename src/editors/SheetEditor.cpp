@@ -274,6 +274,13 @@ void SheetEditor::Place()
     Q_EMIT Placed(m_row);
 }
 
+void SheetEditor::KeepInView()
+{
+    if (m_row != 0)
+        m_grid->EnsureVisible(m_row, LabelColumn);
+    Place();
+}
+
 void SheetEditor::PaintRow(int row, bool inEdit)
 {
     m_grid->SetCellBackColor(row, ValueColumn, inEdit ? Theme::Lavender : QColor());
@@ -405,7 +412,7 @@ bool SheetEditor::GridEvent(QEvent* event)
         QMetaObject::invokeMethod(this, &SheetEditor::FitRows, Qt::QueuedConnection);
         return false;
     case QEvent::Resize:
-        QMetaObject::invokeMethod(this, &SheetEditor::Place, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &SheetEditor::KeepInView, Qt::QueuedConnection);
         return false;
     default:
         return false;

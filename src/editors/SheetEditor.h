@@ -95,6 +95,8 @@ private:
 
     void Load(int row);
     void Place();
+    /// In a smaller window the row in edit stays in sight.
+    void KeepInView();
     void PaintRow(int row, bool inEdit);
     void Enter();
     bool TabKey(bool back);
