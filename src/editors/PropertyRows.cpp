@@ -189,6 +189,8 @@ void MakeAmount(SheetRow& row, PropertyField field)
 {
     const bool cents = field == PropertyField::MaintFee || field == PropertyField::AssocFee;
     row.Accepts = cents ? IsAmountKey : IsWholeAmountKey;
+    if (!cents)
+        row.EndsPaste = u'.';
     row.Load = BareDigits;
 }
 

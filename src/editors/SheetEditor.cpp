@@ -1,10 +1,8 @@
 #include "editors/SheetEditor.h"
 
-#include "editors/OneLine.h"
 #include "editors/SheetAccess.h"
 #include "model/Lists.h"
 #include "ui/widgets/Grid.h"
-#include "ui/widgets/KeyCodes.h"
 #include "ui/widgets/Theme.h"
 
 #include <limits>
@@ -22,8 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int LabelColumn = 1;
-constexpr int ValueColumn = 2;
 constexpr int LabelWidth = 100;
 constexpr int ValueWidth = 300;
 constexpr int FewestRows = 5;
@@ -278,6 +274,13 @@ void SheetEditor::Place()
     Q_EMIT Placed(m_row);
 }
 
+void SheetEditor::KeepInView()
+{
+    if (m_row != 0)
+        m_grid->EnsureVisible(m_row, LabelColumn);
+    Place();
+}
+
 void SheetEditor::PaintRow(int row, bool inEdit)
 {
     m_grid->SetCellBackColor(row, ValueColumn, inEdit ? Theme::Lavender : QColor());
@@ -385,42 +388,6 @@ bool SheetEditor::eventFilter(QObject* watched, QEvent* event)
     }
 }
 
-bool SheetEditor::SwallowsKey(int row, QKeyEvent* event)
-{
-    const bool withCtrl = event->modifiers().testFlag(Qt::ControlModifier);
-    const int ascii = KeyAscii(*event);
-    m_typing = false;
-    if (ascii == Key::Escape) {
-        // A list would take it for a letter to look for; the window is who knows what Esc does.
-        event->ignore();
-        return true;
-    }
-    if (!withCtrl && (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab))
-        return TabKey(event->key() == Qt::Key_Backtab || event->modifiers().testFlag(Qt::ShiftModifier));
-    m_grid->EnsureVisible(row, LabelColumn);
-    if (ascii == Key::Enter) {
-        Enter();
-        return true;
-    }
-    if (withCtrl || ascii == 0 || LineEdit(row) == nullptr)
-        return false;
-    const SheetRow& rule = At(row);
-    if (rule.Accepts && !rule.Accepts(ascii, ControlText(row)))
-        return true;
-    m_typing = true;
-    if (rule.PressMask && ascii != Key::Backspace)
-        SetField(row, rule.PressMask(Field(row)));
-    return false;
-}
-
-void SheetEditor::KeyReleased(int row, const QKeyEvent& event)
-{
-    // While a key is held it is not released; and what Ctrl does to the text (copy, select all) must outlive the key.
-    const bool withCtrl = event.modifiers().testFlag(Qt::ControlModifier) || event.key() == Qt::Key_Control;
-    if (!event.isAutoRepeat() && !withCtrl && At(row).KeyUp)
-        SetField(row, At(row).KeyUp(KeyCode(event), Field(row)));
-}
-
 bool SheetEditor::GridEvent(QEvent* event)
 {
     switch (event->type()) {
@@ -445,30 +412,11 @@ bool SheetEditor::GridEvent(QEvent* event)
         QMetaObject::invokeMethod(this, &SheetEditor::FitRows, Qt::QueuedConnection);
         return false;
     case QEvent::Resize:
-        QMetaObject::invokeMethod(this, &SheetEditor::Place, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &SheetEditor::KeepInView, Qt::QueuedConnection);
         return false;
     default:
         return false;
     }
-}
-
-void SheetEditor::Edited(int row, const QString& now)
-{
-    if (row != m_row)
-        return;
-    const Insertion edit = FindInsertion(m_before, now);
-    const SheetRow& rule = At(row);
-    QString kept;
-    const bool accepted = std::exchange(m_typing, false) && edit.Text.size() == 1;
-    for (const QChar c : OneLine(edit.Text))
-        if (accepted || !rule.Accepts || rule.Accepts(c.unicode(), now.left(edit.Position) + kept))
-            kept += c;
-    if (kept != edit.Text)
-        SetField(row, {now.left(edit.Position) + kept + now.mid(edit.Position + edit.Text.size()),
-                       edit.Position + kept.size()});
-    if (edit.Text.size() > 1 && rule.KeyUp)
-        SetField(row, rule.KeyUp(Key::Shift, Field(row)));
-    m_before = ControlText(row);
 }
 
 void SheetEditor::showEvent(QShowEvent* event)

@@ -9,6 +9,7 @@
 class Grid;
 class QKeyEvent;
 class QLineEdit;
+struct Insertion;
 
 /// A sheet of labels and values in which one row is in edit: its value cell is painted apart, and the row's control
 /// stands on it.
@@ -94,13 +95,23 @@ private:
 
     void Load(int row);
     void Place();
+    /// In a smaller window the row in edit stays in sight.
+    void KeepInView();
     void PaintRow(int row, bool inEdit);
     void Enter();
     bool TabKey(bool back);
+    bool GridEvent(QEvent* event);
+
+    // SheetTyping.cpp: keys and pastes
     [[nodiscard]] bool SwallowsKey(int row, QKeyEvent* event);
     void KeyReleased(int row, const QKeyEvent& event);
-    bool GridEvent(QEvent* event);
+    void LayPressMask(int row);
     void Edited(int row, const QString& now);
+    void PasteAsKeys(int row, const QString& now, const Insertion& edit);
+    void KeepAccepted(int row, const QString& now, const Insertion& edit, bool accepted);
+
+    static constexpr int LabelColumn = 1;
+    static constexpr int ValueColumn = 2;
 
     std::vector<SheetRow> m_rows;
     std::vector<QWidget*> m_controls;

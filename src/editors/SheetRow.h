@@ -27,7 +27,9 @@ struct SheetRow
 
     /// Whether a character may be typed behind what stands in the field; false throws the key away.
     std::function<bool(int keyAscii, const QString& textSoFar)> Accepts = {};
-    /// Laid over the field before a key that was accepted goes into it; not for Backspace.
+    /// A paste ends at this character: an amount that takes no cents must not take them for hundreds.
+    QChar EndsPaste = {};
+    /// Laid over the field before a key goes into it, is thrown away or commits by Enter; not for Backspace.
     std::function<FieldText(const FieldText&)> PressMask = {};
     /// Laid over the field when a key is released, and once after a paste.
     std::function<FieldText(int keyCode, const FieldText&)> KeyUp = {};

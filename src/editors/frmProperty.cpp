@@ -214,11 +214,7 @@ void frmProperty::cmdButton_Click(int index)
     const HourGlass hourGlass;
     ShoWait(u"Saving.."_s);
     if (!SavePropToMain()) {
-        // The row that New added goes with every refusal, the second one too, which is meant.
-        auto* list = frmPropertyList::Loaded();
-        if (list != nullptr && gEditMode == EditMode::NewProperty)
-            list->RemoveLastRow();
-        ShoWait(u"Error Saving"_s);
+        SaveFailed();
         return;
     }
     if (m_sheet->CurRow() != 0)
@@ -231,10 +227,24 @@ void frmProperty::cmdButton_Click(int index)
     }
 }
 
+void frmProperty::SaveFailed()
+{
+    auto* list = frmPropertyList::Loaded();
+    if (m_joinsLater) {
+        // One more save would write one more row.
+        if (list != nullptr)
+            list->CancelEdit();
+        Unload();
+    } else if (list != nullptr) {
+        list->RemoveNewRow();
+    }
+    ShoWait(u"Error Saving"_s);
+}
+
 void frmProperty::CancelProperty()
 {
     if (auto* list = frmPropertyList::Loaded())
-        list->CancelEdit(gEditMode == EditMode::NewProperty);
+        list->CancelEdit();
     ShoWait(u"Cancelled"_s);
 }
 

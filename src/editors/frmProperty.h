@@ -44,6 +44,7 @@ private:
     void ShowNewCaption();
     void Press(int index);
     void cmdButton_Click(int index);
+    void SaveFailed();
     void CancelProperty();
     void AddAnother();
 
@@ -51,6 +52,7 @@ private:
     /// False where the property was refused, or an error was reported.
     [[nodiscard]] bool SavePropToMain();
     [[nodiscard]] bool IsDuplicate() const;
+    void WriteNewListRow() const;
     void WriteListRow() const;
 
     SheetEditor* m_sheet = nullptr;
@@ -58,6 +60,8 @@ private:
     QToolButton* m_picCalendar = nullptr;
     /// The row that was begun on without its calendar.
     int m_withoutCalendar = 0;
+    /// The new property is in the table, under the ID of an older one in memory: it joins at the next start.
+    bool m_joinsLater = false;
     /// The property list that came up unseen, because a property was to be added without it.
     std::unique_ptr<frmPropertyList> m_unseenList;
 };

@@ -14,6 +14,7 @@
 #include <QBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -70,10 +71,8 @@ void frmPropertyList::Form_Load()
         m_grid->SetBackgroundPicture(gSettings.PropPicture);
         if (!curContact)
             throw RunTimeError(ErrorNumber::ObjectNotSet);
-        const bool wasEmpty = curContact->Properties.IsEmpty();
         FillPropList();
-        // The editor has been there already, and its captions stand.
-        if (wasEmpty)
+        if (Rows() == 0)
             return;
         ShoWait(FormatName() + u" properties"_s);
         setWindowTitle(FormatName() + u" Properties"_s);
@@ -157,8 +156,7 @@ void frmPropertyList::ShowIcon(int row, int column, bool shown)
 
 bool frmPropertyList::HasProperty(int row) const
 {
-    // A row that New has added has no property yet. One whose statement was refused has the key 0, and a property.
-    return row > 0 && curContact && curContact->Properties.Exists(m_grid->RowItemData(row));
+    return row > 0 && row != m_newRow && curContact && curContact->Properties.Exists(m_grid->RowItemData(row));
 }
 
 void frmPropertyList::ShowCaption()
@@ -229,29 +227,28 @@ QString frmPropertyList::SelectedHeader() const
 
 void frmPropertyList::AddNewRow()
 {
-    m_grid->AddRow();
+    m_newRow = m_grid->AddRow();
     UnSelectAll();
     SelectLastRow(u"MLS#");
 }
 
-void frmPropertyList::RemoveLastRow()
+void frmPropertyList::RemoveNewRow()
 {
-    if (Rows() > 0)
-        m_grid->RemoveRow(Rows());
+    if (m_newRow > 0)
+        m_grid->RemoveRow(std::exchange(m_newRow, 0));
 }
 
-void frmPropertyList::CancelEdit(bool isNew)
+void frmPropertyList::CancelEdit()
 {
     const int row = m_grid->SelectedRow();
     if (row == 0)
         return;
     const int column = m_grid->SelectedCol() > 0 ? m_grid->SelectedCol() : m_grid->ColumnIndex(u"Address1");
-    if (isNew) {
-        m_grid->SetSelectedRow(row < 2 ? 1 : row - 1);
-        m_grid->RemoveRow(row);
-    } else {
+    if (m_newRow > 1)
+        m_grid->SetSelectedRow(m_newRow - 1);
+    else
         m_grid->SetSelectedRow(row);
-    }
+    RemoveNewRow();
     if (m_grid->SelectedRow() == 0)
         return;
     m_grid->SetSelectedCol(column);
@@ -267,13 +264,11 @@ void frmPropertyList::SetLastRowData(Long propertyID)
 {
     if (Rows() > 0)
         m_grid->SetRowItemData(Rows(), propertyID);
+    m_newRow = 0;
 }
 
 void frmPropertyList::WriteSelectedRow(const std::function<QString(PropertyField field)>& typed)
 {
-    // A refused save has taken the new row away; what is saved after all must show.
-    if (Rows() == 0)
-        AddNewRow();
     const int row = m_grid->SelectedRow();
     int column = 0;
     for (const PropertyColumn& shown : PropertyColumns()) {

@@ -39,11 +39,14 @@ public:
     [[nodiscard]] int Rows() const;
     /// The header of the column that was worked last, "" for none.
     [[nodiscard]] QString SelectedHeader() const;
-    /// Adds an empty row at the end and selects it alone.
+    /// Adds an empty row at the end for a property that is made, and selects it alone. There is one at most.
     void AddNewRow();
-    void RemoveLastRow();
-    /// Cancel: a new property's row, which is the selected one, goes; the column stays.
-    void CancelEdit(bool isNew);
+    /// The row of a property that is being made, 0 where there is none.
+    [[nodiscard]] int NewRow() const { return m_newRow; }
+    /// A refused save: the row of the property that was to be made goes, and no other one.
+    void RemoveNewRow();
+    /// Cancel: so does it here; the column stays.
+    void CancelEdit();
     void SelectLastRow(QStringView key);
     void SetLastRowData(Long propertyID);
     /// Writes the selected row from the texts of the sheet.
@@ -78,6 +81,7 @@ private:
     void GridPropList_MouseUp(Qt::MouseButton button, QPoint position);
     void GridPropList_DblClick(int row, int column);
     void mnuProperty_Click();
+    [[nodiscard]] QString DescribeRow(int row) const;
     void EnableFileMenu(const PropertyFile& file);
     void mnuModify_Click();
     void mnuNew_Click();
@@ -85,6 +89,7 @@ private:
 
     // frmPropertyListDelete.cpp
     void mnuDelete_Click();
+    [[nodiscard]] std::vector<int> RowsToDelete() const;
     void DeleteRows(const std::vector<int>& rows);
     void TakeOverDefault();
 
@@ -98,6 +103,7 @@ private:
     std::optional<Face<PropertyListFace>::Registration> m_face{*this};
     Grid* m_grid;
     PhotoPreview* m_photo;
+    int m_newRow = 0;
     QMenu* m_menu = nullptr;
     CommonDialog m_dialog;
 };

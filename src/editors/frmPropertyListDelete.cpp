@@ -15,14 +15,25 @@ void frmPropertyList::mnuDelete_Click()
     Trap(u"frmPropertyList mnuDelete_Click Error #"_s, Icon::Information, [this] {
         if (Rows() == 0)
             return;
-        const bool one = HilitedProperties() == 1;
+        HilitedProperties();
+        const std::vector<int> rows = RowsToDelete();
+        const bool one = rows.size() == 1;
         if (!Confirmed(one ? u"Do you want me to permanently delete this property?"_s
                            : u"Do you want me to permanently delete all the highlighted properties?"_s)) {
             ShoWait(u"Delete cancelled"_s);
             return;
         }
-        DeleteRows(one ? std::vector<int>{m_grid->SelectedRow()} : m_grid->HighlightedRows());
+        DeleteRows(rows);
     });
+}
+
+std::vector<int> frmPropertyList::RowsToDelete() const
+{
+    // The highlighted rows, which need not hold the selected one; without a highlight it is that.
+    std::vector<int> rows = m_grid->HighlightedRows();
+    if (rows.empty() && m_grid->SelectedRow() > 0)
+        rows.push_back(m_grid->SelectedRow());
+    return rows;
 }
 
 void frmPropertyList::DeleteRows(const std::vector<int>& rows)

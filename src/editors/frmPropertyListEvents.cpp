@@ -18,6 +18,12 @@ using namespace Qt::StringLiterals;
 
 // What the keys, the mouse and the menu of the property list do.
 
+namespace {
+
+constexpr auto deleteCaption = "Delete this Property"_L1;
+
+} // namespace
+
 void frmPropertyList::BuildMenu()
 {
     m_menu = new QMenu(u"Current &Property"_s, this);
@@ -33,7 +39,7 @@ void frmPropertyList::BuildMenu()
         if (gOpeners.WordFileOfProperty)
             gOpeners.WordFileOfProperty();
     });
-    AddEntry(m_menu, "mnuDelete", u"Delete this Property"_s, [this] { mnuDelete_Click(); });
+    AddEntry(m_menu, "mnuDelete", QString(deleteCaption), [this] { mnuDelete_Click(); });
     AddEntry(m_menu, "mnuNotes", u"Notes"_s, [this] { mnuNotes_Click(); });
     AddEntry(m_menu, "mnuClose", u"Close"_s, [this] { Unload(); });
     connect(m_menu, &QMenu::aboutToShow, this, &frmPropertyList::mnuProperty_Click);
@@ -58,7 +64,10 @@ void frmPropertyList::AddFileMenu(QMenu* menu, const PropertyFile& file)
     add(file.SelectEntry, file.SelectCaption, &frmPropertyList::SelectFile);
     add(file.ViewEntry, file.ViewCaption, &frmPropertyList::ViewFile);
     add(file.ClearEntry, file.ClearCaption, &frmPropertyList::ClearFile);
-    connect(own, &QMenu::aboutToShow, this, [this, &file] { EnableFileMenu(file); });
+    connect(own, &QMenu::aboutToShow, this, [this, &file] {
+        Trap(u"frmPropertyList mnu"_s + file.Menu + u"_Click Error #"_s, Icon::Information,
+             [&] { EnableFileMenu(file); });
+    });
 }
 
 QAction& frmPropertyList::Entry(const QString& name) const
@@ -127,6 +136,8 @@ void frmPropertyList::GridPropList_DblClick(int row, int column)
         } else if (gOpeners.PropertyEditor) {
             gEditMode = EditMode::ModifyProperty;
             gOpeners.PropertyEditor();
+            // Another property may be the current one by now.
+            ShowPhoto();
         }
     });
 }
@@ -145,10 +156,17 @@ void frmPropertyList::mnuProperty_Click()
         if (count >= 2)
             Entry(u"mnuDelete"_s).setText(u"Delete the "_s + CStr(qint64{count}) + u" Highlighted Properties"_s);
         else if (one)
-            Entry(u"mnuDelete"_s).setText(MenuText(u"Delete "_s + PropDescribe()));
+            Entry(u"mnuDelete"_s).setText(MenuText(u"Delete "_s + DescribeRow(RowsToDelete().front())));
+        else
+            Entry(u"mnuDelete"_s).setText(QString(deleteCaption));
         EnableFileMenu(PhotoFile);
         EnableFileMenu(VideoFile);
     });
+}
+
+QString frmPropertyList::DescribeRow(int row) const
+{
+    return HasProperty(row) ? PropDescribe(*curContact->Properties.Item(m_grid->RowItemData(row))) : QString();
 }
 
 void frmPropertyList::EnableFileMenu(const PropertyFile& file)
@@ -164,8 +182,6 @@ void frmPropertyList::mnuModify_Click()
 {
     gFocusField = SelectedHeader();
     GridPropList_DblClick(m_grid->SelectedRow(), m_grid->SelectedCol());
-    // What the editor has changed may be looked at next.
-    ShowPhoto();
 }
 
 void frmPropertyList::mnuNew_Click()

@@ -44,9 +44,15 @@ bool frmProperty::SavePropToMain()
         PropDetail values = modifying ? *CurProperty() : PropDetail();
         if (!SetPropValues(values, *m_sheet))
             return false;
-        WriteListRow();
-        if (!(modifying ? ModifyProperty(values) : AddNewProperty(values)))
-            return false;
+        if (modifying) {
+            if (!ModifyProperty(values))
+                return false;
+            WriteListRow();
+        } else {
+            WriteNewListRow();
+            if (!AddNewProperty(values))
+                return false;
+        }
         // A contact's only property is the default one, without any question.
         if (curContact->Properties.Count() == 1) {
             curContact->DefaultProperty = curPropertyID;
@@ -67,17 +73,26 @@ bool frmProperty::IsDuplicate() const
     return found != 0 && (gEditMode != EditMode::ModifyProperty || found != curPropertyID);
 }
 
-void frmProperty::WriteListRow() const
+void frmProperty::WriteNewListRow() const
 {
     auto* list = frmPropertyList::Loaded();
     if (list == nullptr)
         return;
-    if (gEditMode == EditMode::NewProperty && list->Rows() == 1) {
+    // A refused save has taken the new row away; what is saved after all must show.
+    if (list->NewRow() == 0)
+        list->AddNewRow();
+    if (list->Rows() == 1) {
         list->UnSelectAll();
         list->SelectLastRow(u"Address1");
         list->SetDefaultProp(false);
     }
-    list->WriteSelectedRow([this](PropertyField field) { return m_sheet->Value(RowOf(field)); });
+    WriteListRow();
+}
+
+void frmProperty::WriteListRow() const
+{
+    if (auto* list = frmPropertyList::Loaded())
+        list->WriteSelectedRow([this](PropertyField field) { return m_sheet->Value(RowOf(field)); });
 }
 
 bool frmProperty::AddNewProperty(const PropDetail& values)
@@ -87,8 +102,11 @@ bool frmProperty::AddNewProperty(const PropDetail& values)
         const auto property = std::make_shared<PropDetail>(values);
         property->ContactID = curContact->RecID;
         property->RecID = property->SaveToDB();
+        if (property->RecID == 0)
+            return false;
         // Where the read-back gave an older property's ID this raises: the row is written and joins at the next start,
         // and the older property stays as it is.
+        m_joinsLater = curContact->Properties.Exists(property->RecID);
         curContact->Properties.Add(property->RecID, property);
         curPropertyID = property->RecID;
         if (auto* contacts = Face<ContactListFace>::Get())
@@ -105,11 +123,12 @@ bool frmProperty::ModifyProperty(const PropDetail& values)
 {
     return Trap(u"frmProperty ModifyProperty Error #"_s, Icon::Critical, [&] {
         savedPropertyID = curPropertyID;
-        PropDetail& property = *CurProperty();
-        property = values;
+        PropDetail property = values;
         property.ContactID = curContact->RecID;
         property.RecID = curPropertyID;
-        property.UpdateDB();
+        if (!property.UpdateDB())
+            return false;
+        *CurProperty() = std::move(property);
         return true;
     });
 }

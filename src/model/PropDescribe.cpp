@@ -17,10 +17,12 @@ const std::shared_ptr<PropDetail>& CurProperty()
     return property;
 }
 
+QString PropDescribe(const PropDetail& property)
+{
+    return property.MLS.isEmpty() ? u"the property located at "_s + property.Addr1 : property.MLS;
+}
+
 QString PropDescribe()
 {
-    return Trap(u"PropDescribe Error #"_s, Icon::Information, [] {
-        const PropDetail& property = *CurProperty();
-        return property.MLS.isEmpty() ? u"the property located at "_s + property.Addr1 : property.MLS;
-    });
+    return Trap(u"PropDescribe Error #"_s, Icon::Information, [] { return PropDescribe(*CurProperty()); });
 }

@@ -9,5 +9,7 @@ class PropDetail;
 /// its Properties as an empty entry.
 [[nodiscard]] const std::shared_ptr<PropDetail>& CurProperty();
 
-/// That property in words: its MLS number, else where it is located.
+/// A property in words: its MLS number, else where it is located.
+[[nodiscard]] QString PropDescribe(const PropDetail& property);
+/// The current one.
 [[nodiscard]] QString PropDescribe();

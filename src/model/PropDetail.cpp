@@ -108,9 +108,9 @@ Long PropDetail::SaveToDB() const
     });
 }
 
-void PropDetail::UpdateDB() const
+bool PropDetail::UpdateDB() const
 {
-    Trap(u"Class PropDetail UpdateDB Error #"_s, Icon::Information, [&] {
+    return Trap(u"Class PropDetail UpdateDB Error #"_s, Icon::Information, [&] {
         gConn.Execute(
             u"Update PropDetail set Addr1='"_s + Addr1 + u"',Addr2='"_s + Addr2 + u"', City='"_s + City + u"',State='"_s +
             CStr(State) + u"',Zip='"_s + Zip + u"', zip4='"_s + Zip4 + u"',contactid="_s + CStr(ContactID) + u",MLS='"_s +
@@ -124,6 +124,7 @@ void PropDetail::UpdateDB() const
             u", PetsAllowed="_s + GuardedFlagCode(PetsAllowed) + u",ListingDate='"_s + ListingDate + u"',AskingPrice="_s +
             CStr(AskingPrice) + u", ExpDate='"_s + ExpDate + u"',ClosingDate='"_s + ClosingDate + u"',SoldDate='"_s +
             SoldDate + u"', SoldPrice="_s + CStr(SoldPrice) + u" Where ID="_s + CStr(RecID));
+        return true;
     });
 }
 

@@ -59,7 +59,8 @@ public:
     /// Writes this property as a new row and gives its ID, read back under curContact, who must be the owner. Gives 0 after a
     /// report.
     [[nodiscard]] Long SaveToDB() const;
-    void UpdateDB() const;
+    /// False after a report.
+    bool UpdateDB() const;
     /// Writes the notes where they hold more than blanks; emptied notes stay in the table, which is meant.
     void UpdateDBNotes() const;
     /// Deletes all properties of the owner from the table.

@@ -105,6 +105,8 @@ void UnselectAll()
         if (!Confirmed(u"Do you want me to unselect "_s + which))
             return;
         const HourGlass hourGlass;
+        if (auto* rolodex = Face<RolodexFace>::Get())
+            rolodex->ForgetSelected();
         while (!gSelected.IsEmpty()) {
             curContact = ContactAt(gSelected.Last());
             UnSelectCurContact();

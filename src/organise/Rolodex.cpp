@@ -9,9 +9,11 @@
 #include "ui/widgets/Grid.h"
 #include "ui/widgets/Theme.h"
 
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QListWidget>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -49,6 +51,7 @@ Rolodex::Rolodex() : m_letters(new QListWidget(this)), m_grid(new Grid(this))
     m_grid->setObjectName(u"GridRolodex"_s);
     m_grid->setAccessibleName(u"Rolodex"_s);
     m_grid->SetHeaderVisible(false);
+    m_grid->installEventFilter(this);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 8, 8, 8);
@@ -78,12 +81,30 @@ void Rolodex::BuildMenu()
 
 void Rolodex::ConnectLetters()
 {
-    // Keys move to another letter, and so does a first click; a click on the letter that is current shows it anew.
+    // Keys move to another letter; Enter and a click show the current one anew.
     connect(m_letters, &QListWidget::currentItemChanged, this, [this] {
         if (QGuiApplication::mouseButtons() == Qt::NoButton)
             lstRolodex_Click();
     });
-    connect(m_letters, &QListWidget::itemClicked, this, [this] { lstRolodex_Click(); });
+    connect(m_letters, &QListWidget::itemActivated, this, [this] { lstRolodex_Click(); });
+    m_letters->viewport()->installEventFilter(this);
+}
+
+bool Rolodex::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_letters->viewport() && event->type() == QEvent::MouseButtonRelease) {
+        // Whatever letter the press has made current, also where the button is released on another one.
+        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
+            lstRolodex_Click();
+        return false;
+    }
+    const bool asksForMenu = watched == m_grid && event->type() == QEvent::ContextMenu &&
+                             static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard;
+    if (!asksForMenu)
+        return QWidget::eventFilter(watched, event);
+    GridRolodex_MouseUp(Qt::RightButton,
+                        m_grid->viewport()->mapToGlobal(m_grid->visualRect(m_grid->currentIndex()).bottomLeft()));
+    return true;
 }
 
 void Rolodex::ShowLetterColumns()
@@ -184,6 +205,12 @@ void Rolodex::SelectInRolodex(bool selecting)
     });
 }
 
+void Rolodex::ForgetSelected()
+{
+    if (m_showsSelected)
+        m_grid->Clear();
+}
+
 void Rolodex::RemoveContacts(const std::vector<Long>& contactIDs)
 {
     RemoveRowsOf(*m_grid, contactIDs);
@@ -204,7 +231,8 @@ void Rolodex::GridRolodex_MouseUp(Qt::MouseButton button, QPoint position)
 
 void Rolodex::mnuRolodex_Click(bool select)
 {
-    Trap(u"frmMain mnuRolodex_Click Error #"_s, Icon::Critical, [&] {
+    const QString entry = select ? u"mnuRolodexSelect"_s : u"mnuRolodexUnselect"_s;
+    Trap(u"frmMain "_s + entry + u"_Click Error #"_s, Icon::Critical, [&] {
         curContact = ContactAt(m_grid->RowItemData(m_grid->SelectedRow()));
         if (select)
             SelectCurContact();

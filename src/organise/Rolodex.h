@@ -23,7 +23,11 @@ public:
 
     // RolodexFace
     void SelectInRolodex(bool selecting) override;
+    void ForgetSelected() override;
     void RemoveContacts(const std::vector<Long>& contactIDs) override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void BuildMenu();

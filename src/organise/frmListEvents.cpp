@@ -39,7 +39,6 @@ void frmList::BuildMenu()
     AddEntry(m_propertyMenu, "mnuNewProperty", u"New Property"_s, &frmList::mnuNewProperty_Click);
     AddEntry(m_contactsMenu, "mnuClose", u"Close"_s, &frmList::mnuClose_Click);
     Entry("mnuWord").setEnabled(static_cast<bool>(gOpeners.WordFileOfListed));
-    Entry("mnuNewProperty").setEnabled(static_cast<bool>(gOpeners.PropertyEditor));
     connect(m_contactsMenu, &QMenu::aboutToShow, this, &frmList::mnuContacts_Click);
 }
 
@@ -73,7 +72,8 @@ void frmList::GridList_ColumnClick(int column)
             return;
         SortGrid(*m_grid, column);
         m_grid->EnsureVisible(SelectedRow(), column);
-        // Row 1 is the selected row now: were its contact not the current one, a change of it would go to another's row.
+        // Row 1 is the selected row now: were its contact not the current one, a change of it would go to another's
+        // row.
         GridList_SelectionChange();
     });
 }
@@ -155,6 +155,7 @@ void frmList::mnuContacts_Click()
         for (const char* name : {"mnuModify", "mnuSelect", "mnuUnselect", "mnuDelete", "mnuMove", "mnuManageAlerts",
                                  "mnuNewAlert", "mnuNotes"})
             Entry(name).setEnabled(count > 0);
+        Entry("mnuNewProperty").setEnabled(count > 0 && gOpeners.PropertyEditor);
         if (count >= 2)
             ShowMenuForMany(count);
         else if (count == 1 && curContact)

@@ -237,6 +237,9 @@ private Q_SLOTS:
 
         desk.Sheet->resize(500, 400);
         QTRY_COMPARE(control->geometry(), cell(21));
+        desk.Sheet->resize(500, 200);
+        QTRY_VERIFY(grid.viewport()->rect().contains(control->geometry()));
+        QCOMPARE(control->geometry(), cell(21));
     }
 
     void keys_that_a_field_does_not_use_leave_the_grid_alone()

@@ -4,6 +4,7 @@
 #include "editors/PropertyRows.h"
 #include "editors/RecordingFaces.h"
 
+#include <map>
 #include <QCalendarWidget>
 #include <QClipboard>
 #include <QGuiApplication>
@@ -118,8 +119,9 @@ private Q_SLOTS:
         row("twenty digits", AskingPrice, u"99999999999999999999"_s, u"99999999999999999999"_s,
             u"$99,999,999,999,999,999,999"_s, u"$99,999,999,999,999,999,999"_s);
         row("a date takes its zeros", ListingDate, u"1/5/2026"_s, u"01/05/2026"_s, u"01/05/2026"_s, u"01/05/2026"_s);
-        row("a date without a year", ExpDate, u"0105"_s, u"01/05"_s, u"01/05"_s, u"01/05/2026"_s);
-        row("the end of a lease stays as typed", LeaseExpires, u"0105"_s, u"01/05"_s, u"01/05"_s, u"01/05"_s);
+        row("a date with its zeros", SoldDate, u"12/05/2026"_s, u"12/05/2026"_s, u"12/05/2026"_s, u"12/05/2026"_s);
+        row("the end of a lease stays as typed", LeaseExpires, u"1/5/26"_s, u"01/05/26"_s, u"01/05/26"_s,
+            u"01/05/26"_s);
         row("an empty date", ClosingDate, QString(), QString(), QString(), QString());
     }
 
@@ -141,14 +143,95 @@ private Q_SLOTS:
         }
     }
 
+    void a_date_without_a_year_is_one_by_Tab_alone_data()
+    {
+        QTest::addColumn<PropertyField>("field");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("byTab");
+        QTest::newRow("a date") << ExpDate << u"Expiration Date"_s << u"01/05/2026"_s;
+        QTest::newRow("the end of a lease") << LeaseExpires << u"Lease Expiration Date"_s << u"01/05"_s;
+    }
+
+    void a_date_without_a_year_is_one_by_Tab_alone()
+    {
+        QFETCH(const PropertyField, field);
+        QFETCH(const QString, title);
+        const StillClock clock;
+        PropertyDesk desk;
+        PropertyEditor editor(EditMode::NewProperty);
+        editor.Fill(field, u"0105"_s);
+        editor.Key(Qt::Key_Tab);
+        QTEST(editor.Value(field), "byTab");
+        // Enter lays the mask first, and what it makes is no date yet.
+        editor.Fill(field, u"0105"_s);
+        desk.User.Expect(u"Invalid "_s + title, u"Please check the "_s + title + u'.');
+        editor.Key(Qt::Key_Return);
+        QCOMPARE(editor.Sheet().CurRow(), RowOf(field));
+        QCOMPARE(editor.Sheet().ControlText(RowOf(field)), u"01/05/"_s);
+        editor.Type(u"2027"_s);
+        editor.Key(Qt::Key_Return);
+        QCOMPARE(editor.Value(field), u"01/05/2027"_s);
+    }
+
+    void what_is_typed_over_a_date_replaces_it_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("after");
+        QTest::newRow("with zeros") << u"02062027"_s << u"02/06/2027"_s;
+        QTest::newRow("without zeros") << u"2/6/2027"_s << u"02/06/2027"_s;
+    }
+
+    void what_is_typed_over_a_date_replaces_it()
+    {
+        QFETCH(const QString, typed);
+        const PropertyDesk desk;
+        PropertyEditor editor(EditMode::ModifyProperty);
+        editor.Sheet().GoTo(RowOf(ListingDate));
+        for (const auto& [key, modifier] :
+             {std::pair(Qt::Key_A, Qt::ControlModifier), std::pair(Qt::Key_Home, Qt::ShiftModifier)}) {
+            editor.Key(key, modifier);
+            editor.Type(typed);
+            QTEST(editor.Sheet().ControlText(RowOf(ListingDate)), "after");
+        }
+        // A selection behind a month that has no slash yet.
+        editor.Fill(ListingDate, u"12/05/2026"_s);
+        for (int i = 0; i < 8; ++i)
+            editor.Key(Qt::Key_Left, Qt::ShiftModifier);
+        editor.Type(u"31"_s);
+        QCOMPARE(editor.Sheet().ControlText(RowOf(ListingDate)), u"12/31"_s);
+    }
+
+    void a_paste_keeps_what_the_row_takes_data()
+    {
+        QTest::addColumn<PropertyField>("field");
+        QTest::addColumn<QString>("over");
+        QTest::addColumn<QString>("pasted");
+        QTest::addColumn<QString>("after");
+        const auto row = [](const char* what, PropertyField field, const QString& over, const QString& pasted,
+                            const QString& after) { QTest::newRow(what) << field << over << pasted << after; };
+        const QString date = u"01/05/2026"_s;
+        row("digits only", Zip, QString(), u"zip: 33101\n"_s, u"33101"_s);
+        row("a date", SoldDate, QString(), u"02/06/2026"_s, u"02/06/2026"_s);
+        row("a date without zeros", SoldDate, QString(), u"2/6/2026"_s, u"02/06/2026"_s);
+        row("a date over another", SoldDate, date, u"02/06/2026"_s, u"02/06/2026"_s);
+        row("a date without zeros over another", SoldDate, date, u"1/6/2026"_s, u"01/06/2026"_s);
+        row("a date over half of one", SoldDate, u"12"_s, u"1/6/2026"_s, u"01/06/2026"_s);
+        row("a price without its cents", AskingPrice, QString(), u"$350,000.00"_s, u"350000"_s);
+        row("a fee with its cents", MaintFee, QString(), u"$1,250.50"_s, u"1250.50"_s);
+    }
+
     void a_paste_keeps_what_the_row_takes()
     {
+        QFETCH(const PropertyField, field);
+        QFETCH(const QString, over);
+        QFETCH(const QString, pasted);
         const PropertyDesk desk;
         PropertyEditor editor(EditMode::NewProperty);
-        editor.Sheet().GoTo(RowOf(Zip));
-        QGuiApplication::clipboard()->setText(u"zip: 33101\n"_s);
+        editor.Fill(field, over);
+        editor.Key(Qt::Key_A, Qt::ControlModifier);
+        QGuiApplication::clipboard()->setText(pasted);
         editor.Key(Qt::Key_V, Qt::ControlModifier);
-        QCOMPARE(editor.Sheet().ControlText(RowOf(Zip)), u"33101"_s);
+        QTEST(editor.Sheet().ControlText(RowOf(field)), "after");
     }
 
     void a_bad_date_is_not_left_data()
@@ -324,6 +407,17 @@ private Q_SLOTS:
             ClickOn(editor.Form(), u"picCalendar"_s);
             QCOMPARE(editor.Sheet().ControlText(RowOf(field)), u"02/03/2026"_s);
         }
+        // What is no date begins on today.
+        editor.Fill(ExpDate, u"2/30/2026"_s);
+        {
+            const WhenFormOpens calendar(u"frmCalendar"_s, [](Form& form) {
+                QCOMPARE(Control<QCalendarWidget>(form, u"Calendar1"_s).selectedDate(), QDate(2026, 5, 12));
+                ClickOn(form, u"cmdButton_2"_s);
+            });
+            ClickOn(editor.Form(), u"picCalendar"_s);
+        }
+        editor.Sheet().GoTo(RowOf(SoldDate));
+        QCOMPARE(editor.Value(ExpDate), u"05/12/2026"_s);
         const WhenFormOpens cancelled(u"frmCalendar"_s, [](Form& form) { TypeKey(form, Qt::Key_Escape); });
         editor.Key(Qt::Key_D, Qt::AltModifier);
         QTRY_VERIFY(cancelled.HasRun());
@@ -435,11 +529,14 @@ private Q_SLOTS:
             TypeText(form, city);
             desk.User.Expect(u"frmProperty AddNewProperty Error #457"_s, RunTimeError::StandardDescription(457));
             TypeKey(form, Qt::Key_S, Qt::AltModifier);
-            QTRY_COMPARE(desk.User.LastStatus(), u"Error Saving"_s);
-            QVERIFY(!form.IsUnloaded());
-            QCOMPARE(list.Ids(), (std::vector<Long>{1, 2}));
+            QTRY_VERIFY(form.IsUnloaded());
         });
         list.Choose("mnuNew");
+        // The window is gone: another save would write another row.
+        QCOMPARE(desk.User.LastStatus(), u"Error Saving"_s);
+        QCOMPARE(list.Ids(), (std::vector<Long>{1, 2}));
+        QCOMPARE(curPropertyID, 2);
+        QCOMPARE(PropertyDesk::Addresses().size(), 3);
         QCOMPARE(PropertyDesk::Addresses().last(), u"3|1|"_s + address + u"||"_s + city);
         QCOMPARE(PropertyDesk::Property(1).City, u"Miami"_s);
         QCOMPARE(PropertyDesk::Property(1).Addr1, u"1 Elm Street"_s);
@@ -466,15 +563,136 @@ private Q_SLOTS:
         QCOMPARE(list.Text(2, u"Closed"), u"Yes"_s);
     }
 
-    void an_apostrophe_is_reported_by_the_store()
+    void what_the_store_refuses_changes_nothing_data()
     {
+        QTest::addColumn<Long>("contact");
+        QTest::addColumn<Long>("mode");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("a new one") << 1 << EditMode::NewProperty << u"SaveToDB"_s;
+        QTest::newRow("the first one") << 2 << EditMode::NewProperty << u"SaveToDB"_s;
+        QTest::newRow("a change") << 1 << EditMode::ModifyProperty << u"UpdateDB"_s;
+    }
+
+    void what_the_store_refuses_changes_nothing()
+    {
+        QFETCH(const Long, contact);
+        QFETCH(const Long, mode);
+        QFETCH(const QString, title);
         PropertyDesk desk;
-        PropertyEditor editor(EditMode::NewProperty);
-        const QStringList before = PropertyDesk::Addresses();
+        std::optional<OpenPropertyList> list;
+        if (contact == 1)
+            list.emplace();
+        curContact = ContactAt(contact);
+        const QStringList before = FreshDatabase::WholeFile();
+        const qsizetype count = curContact->Properties.Count();
+        PropertyEditor editor(mode);
         editor.Fill(Addr1, u"4 king's road"_s);
-        desk.User.ExpectReport(u"Class PropDetail SaveToDB Error #-2147217900"_s);
+        editor.Sheet().GoTo(RowOf(City));
+        // A second save is refused like the first.
+        for (int times = 0; times < 2; ++times) {
+            desk.User.ExpectReport(u"Class PropDetail "_s + title + u" Error #-2147217900"_s);
+            editor.Click(2);
+            QCOMPARE(desk.User.LastStatus(), u"Error Saving"_s);
+        }
+        QVERIFY(!editor.Form().IsUnloaded());
+        QCOMPARE(editor.Value(Addr1), u"4 king's road"_s);
+        QCOMPARE(FreshDatabase::WholeFile(), before);
+        QCOMPARE(curContact->Properties.Count(), count);
+        QCOMPARE(curContact->DefaultProperty, contact == 1 ? 1 : 0);
+        QCOMPARE(PropertyDesk::Property(1).Addr1, u"1 Elm Street"_s);
+        if (list) {
+            QCOMPARE(list->Ids(), (std::vector<Long>{1, 2}));
+            QCOMPARE(list->Text(1, u"Address1"), u"1 Elm Street"_s);
+        }
+        editor.Fill(Addr1, u"4 kings road"_s);
         editor.Click(2);
-        QCOMPARE(PropertyDesk::Addresses(), before);
+        QVERIFY(editor.Form().IsUnloaded());
+        QCOMPARE(desk.User.LastStatus(), u"Saved"_s);
+    }
+
+    void a_refused_New_takes_only_its_own_row_away_data()
+    {
+        QTest::addColumn<Long>("properties");
+        QTest::addColumn<bool>("saves");
+        for (const Long properties : {1, 2})
+            for (const bool saves : {true, false})
+                QTest::addRow("%d, then %s", properties, saves ? "saved" : "cancelled") << properties << saves;
+    }
+
+    void a_refused_New_takes_only_its_own_row_away()
+    {
+        QFETCH(const Long, properties);
+        QFETCH(const bool, saves);
+        PropertyDesk desk;
+        if (properties == 1)
+            curContact->Properties.Remove(2);
+        OpenPropertyList list;
+        std::vector<Long> ids = list.Ids();
+        const WhenFormOpens script(u"frmProperty"_s, [&](Form& form) {
+            auto& sheet = *form.findChild<SheetEditor*>();
+            sheet.GoTo(RowOf(Addr1));
+            TypeText(form, u"3 Fir Way"_s);
+            sheet.GoTo(RowOf(SqFt));
+            TypeText(form, u"40000"_s);
+            for (int times = 0; times < 2; ++times) {
+                desk.User.Expect(u"SetPropValues Error #6"_s, RunTimeError::StandardDescription(6));
+                ClickOn(form, u"cmdButton_2"_s);
+                desk.User.Done();
+                QCOMPARE(list.Ids(), ids);
+            }
+            TypeKey(form, Qt::Key_Backspace);
+            ClickOn(form, saves ? u"cmdButton_2"_s : u"cmdButton_1"_s);
+            QTRY_VERIFY(form.IsUnloaded());
+        });
+        list.Choose("mnuNew");
+        if (saves)
+            ids.push_back(3);
+        QCOMPARE(list.Ids(), ids);
+        QCOMPARE(list.Text(1, u"Address1"), u"1 Elm Street"_s);
+        QCOMPARE(list.Icon(1, u"Default"), u"default"_s);
+        if (saves) {
+            QCOMPARE(list.Text(static_cast<int>(ids.size()), u"Address1"), u"3 Fir Way"_s);
+            QCOMPARE(list.Icon(static_cast<int>(ids.size()), u"Default"), QString());
+        }
+    }
+
+    void a_list_row_begun_without_its_entry_loses_it_by_a_save_data()
+    {
+        QTest::addColumn<QString>("column");
+        QTest::addColumn<QString>("then");
+        QTest::newRow("State") << u"State"_s << u"AL"_s;
+        QTest::newRow("Type") << u"PropType"_s << u"Condominium"_s;
+        QTest::newRow("FloodZone") << u"FloodZone"_s << QString();
+        QTest::newRow("PetsAllowed") << u"PetsAllowed"_s << QString();
+        QTest::newRow("RentalBasis") << u"RentalBasis"_s << u"Daily"_s;
+    }
+
+    void a_list_row_begun_without_its_entry_loses_it_by_a_save()
+    {
+        QFETCH(const QString, column);
+        QFETCH(const QString, then);
+        const PropertyDesk desk;
+        PropDetail& property = PropertyDesk::Property(1);
+        property.PropType = 3;
+        property.FloodZone = u"Yes"_s;
+        property.PetsAllowed = u"Yes"_s;
+        property.RentalBasis = 2;
+        property.UpdateDB();
+        OpenPropertyList list;
+        const QString key = QString::fromLatin1(QTest::currentDataTag());
+        const WhenFormOpens script(u"frmProperty"_s, [](Form& form) {
+            TypeKey(form, Qt::Key_S, Qt::AltModifier);
+            QTRY_VERIFY(form.IsUnloaded());
+        });
+        list.DoubleClick(1, key);
+        QCOMPARE(FreshDatabase::Rows(u"Select "_s + column + u" from PropDetail Where ID=1"_s), QStringList{u"0"_s});
+        const auto kept = curContact->Properties.Item(1);
+        const std::map<QString, QString> now{{u"State"_s, PropertyText(*kept, State)},
+                                             {u"Type"_s, PropertyText(*kept, PropType)},
+                                             {u"FloodZone"_s, kept->FloodZone},
+                                             {u"PetsAllowed"_s, kept->PetsAllowed},
+                                             {u"RentalBasis"_s, PropertyText(*kept, RentalBasis)}};
+        QCOMPARE(now.at(key), then);
     }
 
     void a_new_property_shows_in_both_lists()
@@ -533,6 +751,40 @@ private Q_SLOTS:
         QCOMPARE(PropertyDesk::Addresses().last(), u"3|1|5 Ash Court||"_s);
         editor.Gone();
         QCOMPARE(frmPropertyList::Loaded() != nullptr, withList);
+    }
+
+    void save_and_add_twice_and_cancel_leaves_what_was_saved()
+    {
+        const PropertyDesk desk;
+        OpenPropertyList list;
+        const WhenFormOpens script(u"frmProperty"_s, [](Form& form) {
+            for (const QString& address : {u"3 Fir Way"_s, u"5 Ash Court"_s}) {
+                form.findChild<SheetEditor*>()->GoTo(RowOf(Addr1));
+                TypeText(form, address);
+                TypeKey(form, Qt::Key_A, Qt::AltModifier);
+            }
+            TypeKey(form, Qt::Key_Escape);
+            QTRY_VERIFY(form.IsUnloaded());
+        });
+        list.Choose("mnuNew");
+        QCOMPARE(list.Ids(), (std::vector<Long>{1, 2, 3, 4}));
+        QCOMPARE(list.Text(3, u"Address1"), u"3 Fir Way"_s);
+        QCOMPARE(list.Text(4, u"Address1"), u"5 Ash Court"_s);
+        QCOMPARE(list.Rows().SelectedRow(), 4);
+        QCOMPARE(curPropertyID, 4);
+    }
+
+    void the_unseen_list_gives_a_default_with_its_box()
+    {
+        PropertyDesk desk;
+        ContactAt(1)->DefaultProperty = 0;
+        PropertyEditor editor(EditMode::ModifyProperty);
+        desk.User.Expect(u"New Default Property for Ann Lee"_s,
+                         u"This contact was not assigned a Default Property or the\r\ndefault property was deleted. A "
+                         "new default property will\r\nbe automatically assigned for this contact"_s);
+        editor.Click(3);
+        QCOMPARE(ContactAt(1)->DefaultProperty, 1);
+        QVERIFY(!frmPropertyList::Loaded()->isVisible());
     }
 
     void leaving_without_saving_data()

@@ -128,7 +128,7 @@ private Q_SLOTS:
     {
         QFETCH(const Long, mode);
         QFETCH(const bool, saves);
-        const PropertyDesk desk;
+        PropertyDesk desk;
         curContact = ContactAt(2);
         gEditMode = mode;
         const WhenFormOpens script(u"frmProperty"_s, [saves](Form& form) {
@@ -141,10 +141,13 @@ private Q_SLOTS:
         OpenPropertyList list;
         QCOMPARE(desk.EditorCalls, 1);
         QCOMPARE(list.Ids(), saves ? std::vector<Long>{3} : std::vector<Long>{});
-        QVERIFY(
-            list.Form().windowTitle().endsWith(saves ? u"1 property for Bob Ray"_s : u"0 properties for Bob Ray"_s));
-        if (saves)
-            QCOMPARE(list.Icon(1, u"Default"), u"default"_s);
+        if (!saves) {
+            QVERIFY(list.Form().windowTitle().endsWith(u"0 properties for Bob Ray"_s));
+            return;
+        }
+        QCOMPARE(list.Form().windowTitle(), u"Bob Ray Properties"_s);
+        QCOMPARE(desk.User.LastStatus(), u"Bob Ray properties"_s);
+        QCOMPARE(list.Icon(1, u"Default"), u"default"_s);
     }
 
     void a_contact_without_a_default_gets_the_first_one()
@@ -234,9 +237,41 @@ private Q_SLOTS:
             QCOMPARE(curPropertyID, list.Rows().RowItemData(list.Rows().SelectedRow()));
     }
 
-    void the_menu_follows_the_rows_and_the_files()
+    void the_highlighted_row_is_deleted_where_another_one_is_selected()
+    {
+        PropertyDesk desk;
+        OpenPropertyList list;
+        list.Click(1, u"City");
+        list.Click(2, u"City", Qt::ControlModifier);
+        list.Click(2, u"City", Qt::ControlModifier);
+        QCOMPARE(list.Form().Highlighted(), std::vector<Long>{1});
+        QCOMPARE(list.Entry("mnuDelete").text(), u"Delete M100"_s);
+        desk.User.Expect(Confirm, u"Do you want me to permanently delete this property?"_s, Answer::Yes);
+        desk.User.Expect(u"New Default Property"_s,
+                         u"Ann Lee's new default property is now the property located at 2 Oak Lane"_s);
+        list.Choose("mnuDelete");
+        QCOMPARE(list.Ids(), std::vector<Long>{2});
+        QCOMPARE(FreshDatabase::Rows(u"Select ID from PropDetail"_s), QStringList{u"2"_s});
+    }
+
+    void a_click_on_a_header_makes_the_first_row_the_one_that_is_changed()
     {
         const PropertyDesk desk;
+        OpenPropertyList list;
+        list.Click(1, u"City");
+        Q_EMIT list.Rows().ColumnClick(list.Rows().ColumnIndex(u"Address1"));
+        QCOMPARE(list.Ids(), (std::vector<Long>{2, 1}));
+        QCOMPARE(curPropertyID, 2);
+        const WhenFormOpens editor(u"frmProperty"_s, [](Form& form) {
+            const auto& sheet = *form.findChild<SheetEditor*>();
+            QCOMPARE(sheet.Value(RowOf(PropertyField::Addr1)), u"2 Oak Lane"_s);
+        });
+        list.Choose("mnuModify");
+    }
+
+    void the_menu_follows_the_rows_and_the_files()
+    {
+        PropertyDesk desk;
         OpenPropertyList list;
         const auto enabled = [&list](std::initializer_list<const char*> names) {
             QStringList on;
@@ -259,6 +294,12 @@ private Q_SLOTS:
         QCOMPARE(enabled(one), QStringList());
         QCOMPARE(list.Entry("mnuDelete").text(), u"Delete the 2 Highlighted Properties"_s);
         QVERIFY(!list.Entry("mnuWord").isEnabled());
+
+        desk.User.Expect(Confirm, u"Do you want me to permanently delete all the highlighted properties?"_s,
+                         Answer::Yes);
+        list.Choose("mnuDelete");
+        QCOMPARE(list.Entry("mnuDelete").text(), u"Delete this Property"_s);
+        QVERIFY(!list.Entry("mnuDelete").isEnabled());
     }
 
     void a_right_click_opens_the_menu_on_its_row()
@@ -417,6 +458,30 @@ private Q_SLOTS:
         // The property beneath has no photo.
         list.Click(2, u"City");
         QVERIFY(preview.Photo().isNull());
+    }
+
+    void the_photo_goes_with_the_row_that_the_editor_leaves_selected()
+    {
+        const PropertyDesk desk;
+        const Files files;
+        const QString path = files.Folder.filePath(u"elm.png"_s);
+        QImage photo(40, 30, QImage::Format_RGB32);
+        photo.fill(Qt::red);
+        QVERIFY(photo.save(path));
+        PropertyDesk::Property(1).Picture = path;
+        OpenPropertyList list;
+        const auto& preview = Control<PhotoPreview>(list.Form(), u"Photo"_s);
+        QTRY_VERIFY(!preview.Photo().isNull());
+        const WhenFormOpens editor(u"frmProperty"_s, [](Form& form) {
+            TypeKey(form, Qt::Key_A, Qt::AltModifier);
+            form.findChild<SheetEditor*>()->GoTo(RowOf(PropertyField::Addr1));
+            TypeText(form, u"3 Fir Way"_s);
+            TypeKey(form, Qt::Key_S, Qt::AltModifier);
+            QTRY_VERIFY(form.IsUnloaded());
+        });
+        list.DoubleClick(1, u"City");
+        QCOMPARE(list.Rows().SelectedRow(), 3);
+        QTRY_VERIFY(preview.Photo().isNull());
     }
 };
 

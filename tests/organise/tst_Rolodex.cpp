@@ -1,8 +1,10 @@
+#include "model/DeleteContacts.h"
 #include "organise/Desk.h"
 #include "organise/Rolodex.h"
-#include "model/DeleteContacts.h"
 #include "ui/widgets/Theme.h"
 
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QListWidget>
 
 using namespace Qt::StringLiterals;
@@ -14,7 +16,10 @@ class tst_Rolodex : public QObject
 private Q_SLOTS:
     void ALetterShowsItsContactsUnsorted();
     void SelectionShowsInEitherView();
+    void UnselectingAllEmptiesTheSelectedView();
     void TheMenuOffersTheOtherState();
+    void KeysDoWhatTheMouseDoes();
+    void AReleaseOnAnotherLetterShowsTheCurrentOne();
     void ADoubleClickShowsTheContactInItsList();
     void ADeletedContactLeavesTheRolodex();
 
@@ -95,6 +100,69 @@ void tst_Rolodex::SelectionShowsInEitherView()
     QCOMPARE(desk.Cards().CellColor(1, 1), Theme::Green);
 }
 
+void tst_Rolodex::UnselectingAllEmptiesTheSelectedView()
+{
+    RolodexDesk desk;
+    for (const Long id : {2, 3, 4}) {
+        curContact = ContactAt(id);
+        SelectCurContact();
+    }
+    desk.ClickLetter(u'R');
+    for (const bool letter : {true, false}) {
+        if (!letter) {
+            for (const Long id : {2, 4}) {
+                curContact = ContactAt(id);
+                SelectCurContact();
+            }
+            desk.Browser->mnuSelectedToRolodex_Click();
+        }
+        desk.Person.Expect(u"Please Confirm Before I Proceed"_s,
+                           u"Do you want me to unselect All %1 contacts?"_s.arg(letter ? 3 : 2), Answer::Yes);
+        UnselectAll();
+        QCOMPARE(desk.Cards().Rows(), letter ? 1 : 0);
+        QCOMPARE(curContact->RecID, 2);
+        QVERIFY(!ContactAt(4)->Selected);
+        if (letter)
+            QVERIFY(desk.Cards().CellColor(1, 1) != Theme::Green);
+    }
+    // The view goes on with who is selected next.
+    SelectCurContact();
+    QCOMPARE(desk.Texts(2), QStringList{u"Bob M Ray"_s});
+}
+
+void tst_Rolodex::KeysDoWhatTheMouseDoes()
+{
+    RolodexDesk desk;
+    desk.ClickLetter(u'R');
+    desk.Cards().SelectCell(1, 1);
+    QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QApplication::sendEvent(&desk.Cards(), &menuKey);
+    auto& menu = Control<QMenu>(*desk.Browser, u"mnuRolodex"_s);
+    QTRY_VERIFY(menu.isVisible());
+    QTest::keyClick(&menu, Qt::Key_Down);
+    QTest::keyClick(&menu, Qt::Key_Return);
+    QCOMPARE(gSelected.Ids(), std::vector<Long>{2});
+    // Enter on the letter that is current brings the letters back.
+    desk.Browser->mnuSelectedToRolodex_Click();
+    QCOMPARE(desk.Cards().Columns(), 2);
+    QTest::keyClick(&Control<QListWidget>(*desk.Browser, u"lstRolodex"_s), Qt::Key_Return);
+    QCOMPARE(desk.Cards().Columns(), 1);
+    QCOMPARE(desk.Texts(), QStringList{u"(215) 555-0101 Bob M Ray"_s});
+}
+
+void tst_Rolodex::AReleaseOnAnotherLetterShowsTheCurrentOne()
+{
+    RolodexDesk desk;
+    auto& letters = Control<QListWidget>(*desk.Browser, u"lstRolodex"_s);
+    const auto place = [&letters](char16_t letter) {
+        return letters.visualItemRect(letters.item(letter - u'A')).center();
+    };
+    QTest::mousePress(letters.viewport(), Qt::LeftButton, {}, place(u'D'));
+    QTest::mouseRelease(letters.viewport(), Qt::LeftButton, {}, place(u'R'));
+    QCOMPARE(letters.currentItem()->text(), u"D "_s);
+    QCOMPARE(desk.Texts().size(), 2);
+}
+
 void tst_Rolodex::TheMenuOffersTheOtherState()
 {
     RolodexDesk desk;
@@ -140,7 +208,8 @@ void tst_Rolodex::ADeletedContactLeavesTheRolodex()
     RolodexDesk desk;
     desk.ClickLetter(u'D');
     curContact = ContactAt(1);
-    desk.Person.Expect(u"Please Confirm Before I Proceed"_s, u"Do you want me to permanently delete Ann day?"_s, Answer::Yes);
+    desk.Person.Expect(u"Please Confirm Before I Proceed"_s, u"Do you want me to permanently delete Ann day?"_s,
+                       Answer::Yes);
     DeleteContacts(DeleteMode::Current);
     QCOMPARE(desk.Texts(), QStringList{u" Cy Day"_s});
 }

@@ -195,9 +195,12 @@ void CenterForm(QWidget& form)
     if (!form.testAttribute(Qt::WA_Resized))
         form.adjustSize();
     const QScreen* screen = form.screen();
-    const QSize room = screen->availableSize();
+    // The frame comes only with the showing: a form as high as the screen would have its last row below it.
+    constexpr int titleHeight = 40;
+    const QSize room = screen->availableSize() - QSize(0, titleHeight);
     if (form.width() > room.width() || form.height() > room.height())
         form.resize(form.size().boundedTo(room));
     const QRect whole = screen->geometry();
-    form.move(whole.x() + (whole.width() - form.width()) / 2, whole.y() + (whole.height() - form.height()) / 2);
+    const int top = std::min((whole.height() - form.height()) / 2, whole.height() - titleHeight - form.height());
+    form.move(whole.x() + (whole.width() - form.width()) / 2, whole.y() + std::max(0, top));
 }
