@@ -1,15 +1,10 @@
 #pragma once
 
 #include "alerts/AlertPanels.h"
-#include "app/Composition.h"
 #include "core/Clock.h"
-#include "model/Categories.h"
 #include "model/Contact.h"
-#include "model/LoadContacts.h"
 #include "model/Main.h"
-#include "organise/CategoryTree.h"
-#include "support/FreshDatabase.h"
-#include "support/ScriptedUser.h"
+#include "support/RunningProgram.h"
 #include "support/Windows.h"
 #include "ui/frame/Menus.h"
 #include "ui/widgets/Forms.h"
@@ -23,7 +18,7 @@
 /// The program on the morning of November 22, 2026, on a small file:
 ///   Buyers   First home: 1 Ann Lee, 2 Bob M Ray, 3 Cy Day
 ///   Ann: A1 today "Call Ann", A2 two days late "Late";  Bob: A3 in December "Soon", A4 in January "Next year"
-class Morning
+class Morning : public RunningProgram
 {
 public:
     struct Row
@@ -53,37 +48,10 @@ public:
         Start();
     }
 
-    ~Morning()
+    ~Morning() override
     {
         End();
         Clock::SetSource({});
-    }
-
-    /// Starts the program, in the order of the splash.
-    void Start()
-    {
-        LoadCategories();
-        m_program = std::make_unique<Composition>();
-        m_program->Tree().FillTree();
-        LoadContacts([](int) {});
-        Panels().FillAlertGrid(false);
-        Panels().FillAlertGrid(true);
-        Main().Show();
-        QTest::qWait(0);
-        static_cast<void>(Database.TakeStatements());
-        Person.Forget();
-    }
-    void End()
-    {
-        Main().Unload();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        m_program.reset();
-    }
-    void StartAnew()
-    {
-        End();
-        Database.StartAnew();
-        Start();
     }
 
     static void SetToday(const QDate& day)
@@ -91,7 +59,6 @@ public:
         Clock::SetSource([day] { return QDateTime(day, QTime(9, 0)); });
     }
 
-    [[nodiscard]] frmMain& Main() { return m_program->Main(); }
     [[nodiscard]] QAction& Entry(const QString& name) { return Main().MainMenus().Entry(name); }
     [[nodiscard]] static AlertPanelsFace& Panels() { return *Face<AlertPanelsFace>::Get(); }
     [[nodiscard]] Grid& Current() { return Control<Grid>(Main(), QStringLiteral("GridAlerts")); }
@@ -119,14 +86,11 @@ public:
     /// The list of First home, with its grid.
     Grid& OpenList()
     {
-        m_program->Tree().FindInTree(QStringLiteral("S1"));
-        m_program->Tree().trvCategories_DblClick();
+        Tree().FindInTree(QStringLiteral("S1"));
+        Tree().trvCategories_DblClick();
         QTest::qWait(0);
         return Control<Grid>(*Forms::Find(QStringLiteral("frmList")), QStringLiteral("GridList"));
     }
-
-    FreshDatabase Database;
-    ScriptedUser Person;
 
 private:
     static void AddContact(const char* first, const char* mi, const char* last)
@@ -135,6 +99,4 @@ private:
                                               "Values (1,1,'%1','%2','%3')")
                                    .arg(QLatin1StringView(first), QLatin1StringView(mi), QLatin1StringView(last)));
     }
-
-    std::unique_ptr<Composition> m_program;
 };
