@@ -98,10 +98,15 @@ void RemoveFromViews(const Ids& ids)
 
 void DeleteThese(const Ids& ids)
 {
+    // All are looked at before the first one goes: one that is gone already must not leave the others half deleted.
+    std::vector<std::pair<std::shared_ptr<Contact>, qsizetype>> places;
+    places.reserve(ids.size());
     for (const Long id : ids) {
-        const std::shared_ptr<Contact> contact = ContactAt(id);
-        ForgetContact(id, contact->CategoryID, LocateSub(contact->subCategoryID, contact->CategoryID));
+        const std::shared_ptr<Contact>& contact = ContactAt(id);
+        places.emplace_back(contact, LocateSub(contact->subCategoryID, contact->CategoryID));
     }
+    for (const auto& [contact, subIndex] : places)
+        ForgetContact(contact->RecID, contact->CategoryID, subIndex);
     RemoveFromViews(ids);
     DeleteRows(ids);
     const Ids alertIDs = ForgetAlerts(ids);
@@ -144,10 +149,10 @@ void Contact::DeleteFromDB()
         const Ids ids = gHilited;
         if (ids.empty())
             return;
-        const QString question =
-            ids.size() == 1 ? u"Do you want me to delete "_s + FormatName(*ContactAt(ids.front())) + u"?"_s
-                            : u"Do you want me to delete the "_s + CStr(static_cast<qint64>(ids.size())) +
-                                  u" highlighted contacts?"_s;
+        const QString question = ids.size() == 1
+                                     ? u"Do you want me to delete "_s + FormatName(*ContactAt(ids.front())) + u"?"_s
+                                     : u"Do you want me to delete the "_s + CStr(static_cast<qint64>(ids.size())) +
+                                           u" highlighted contacts?"_s;
         if (!Confirmed(question)) {
             ShoWait(u"I have cancelled the Delete operation"_s);
             return;

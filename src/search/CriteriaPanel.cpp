@@ -63,7 +63,6 @@ QRadioButton* CriteriaPanel::AddOption(QBoxLayout& line, const QString& name, co
 {
     auto* option = new QRadioButton(caption, this);
     option->setObjectName(name);
-    option->setCursor(Qt::PointingHandCursor);
     line.addWidget(option);
     return option;
 }
@@ -89,6 +88,7 @@ void CriteriaPanel::BuildLayout()
     modes->addStretch();
     // The chosen one is bold: room for that is there from the start, so that nothing moves.
     for (QRadioButton* option : {m_contacts, m_properties}) {
+        option->setCursor(Qt::PointingHandCursor);
         SetBold(*option, true);
         option->setMinimumWidth(option->sizeHint().width());
         SetBold(*option, false);

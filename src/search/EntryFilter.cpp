@@ -16,6 +16,9 @@ bool EntryFilter::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::KeyPress && SwallowsKey(*static_cast<QKeyEvent*>(event)))
         return true;
+    // A key that edited nothing must not let the next paste through.
+    if (event->type() == QEvent::KeyRelease)
+        m_typing = false;
     if (event->type() == QEvent::KeyRelease && m_rules.AfterKey) {
         const auto* key = static_cast<QKeyEvent*>(event);
         // What Ctrl does to the text (select all, copy) must outlive the key.

@@ -86,6 +86,9 @@ bool FindInProps::Test(const PropDetail& property) const
     }
     if (const QString* stored = TextOf(property))
         return TestText(*stored);
+    // A property without a price has no text that a criterion could be held against.
+    if (m_test == PropertyTest::Criterion && PropertyMoney(property, m_field) == Currency())
+        return TestText({});
     return TestText(PropertyText(property, m_field, PropertyForm::Plain));
 }
 

@@ -91,6 +91,7 @@ constexpr PropertyColumn FieldColumn(QLatin1StringView key, QLatin1StringView he
     return {key, header, Content::Field, field};
 }
 
+/// Sorted by value: "$90,000.00" comes before "$250,000.00".
 constexpr PropertyColumn NumberColumn(QLatin1StringView key, QLatin1StringView header, PropertyField field)
 {
     return {key, header, Content::Field, field, SortType::Number};
@@ -103,7 +104,7 @@ constexpr PropertyColumn HasComeColumn(QLatin1StringView name, PropertyField dat
 
 constexpr PropertyColumn DateColumn(QLatin1StringView key, QLatin1StringView header, PropertyField field)
 {
-    return {key, header, Content::DateValue, field};
+    return {key, header, Content::DateValue, field, SortType::Date};
 }
 
 constexpr std::array propertyColumns{

@@ -41,7 +41,7 @@ void FoundList::mnuDeleteFoundProp_Click()
                             ? u"Do you want me to permanently delete this property?"_s
                             : u"Do you want me to permanently delete all the found properties?"_s,
                         [](int) { return true; });
-        ShowHowManyFound();
+        ShowCountAndTakeFirst();
     });
 }
 
@@ -55,12 +55,13 @@ void FoundList::mnuDeleteHilitedProperties_Click()
         } else if (selected > 0) {
             // The question names what will go.
             TakeProperty(selected);
+            static_cast<void>(CurProperty()); // one that is gone is reported, and nothing is asked
             DeleteProps(u"Do you want me to permanently delete "_s + PropDescribe() + u'?',
                         [selected](int row) { return row == selected; });
         } else {
             return;
         }
-        ShowHowManyFound();
+        ShowCountAndTakeFirst();
     });
 }
 

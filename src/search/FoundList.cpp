@@ -142,7 +142,7 @@ void FoundList::End()
     m_grid->SetRedraw(true);
     if (m_grid->SelectedRow() > 0)
         m_grid->EnsureVisible(m_grid->SelectedRow(), nameColumn);
-    ShowHowManyFound();
+    ShowCountAndTakeFirst();
 }
 
 void FoundList::AddContactToFoundGrid(int row, const Contact& contact)
@@ -202,6 +202,7 @@ void FoundList::AddSpacer(const std::vector<int>& columns)
 void FoundList::Clear()
 {
     m_grid->Clear();
+    m_grid->viewport()->setCursor(Qt::ArrowCursor);
     ShowAtRest();
     HideFoundMenus();
 }
@@ -230,7 +231,14 @@ void FoundList::ShowHowManyFound()
         ShowFoundMenu(count > 0);
         ShowHeading((count > 0 ? CStr(Long{count}) : u"No"_s) + u' ' + (count == 1 ? one : many) + u"found"_s,
                     count > 0 ? Theme::LightBlue : Theme::Red);
-        if (count > 0 && ShowsProperties())
+    });
+}
+
+void FoundList::ShowCountAndTakeFirst()
+{
+    ShowHowManyFound();
+    Trap(u"frmMain ShowHowManyFound Error #"_s, Icon::Critical, [this] {
+        if (ShowsProperties() && Count() > 0)
             TakeProperty(FirstVisibleRow());
     });
 }
@@ -314,8 +322,11 @@ void FoundList::MarkSelected(Long contactID, bool selected)
     if (ShowsProperties() || Count() == 0)
         return;
     const int row = m_grid->FindRow(contactID);
-    if (row > 0 && m_grid->RowVisible(row))
-        MarkRow(row, selected);
+    if (row == 0 || !m_grid->RowVisible(row))
+        return;
+    MarkRow(row, selected);
+    // Bold letters need more room.
+    m_grid->AutoWidthColumn(nameColumn);
 }
 
 void FoundList::RedrawContact(const Contact& contact)

@@ -50,6 +50,7 @@ public:
     [[nodiscard]] std::vector<Long> FoundProperties() const override;
     [[nodiscard]] std::vector<Long> HighlightedProperties() const override;
     void RemoveProperties(const std::vector<Long>& propertyIDs) override;
+    /// Changes nothing of what is current: whoever calls may have a record in hand.
     void ShowHowManyFound() override;
 
 protected:
@@ -76,6 +77,8 @@ private:
     /// The rows found, without the spacer.
     [[nodiscard]] int Count() const;
     [[nodiscard]] int FirstVisibleRow() const;
+    /// The count after a search or a deletion of this list's own, which makes the first property that is left current.
+    void ShowCountAndTakeFirst();
     void ShowFoundMenu(bool shown);
     void HideFoundMenus();
     void ShowHeading(const QString& text, const QColor& color);
@@ -97,7 +100,7 @@ private:
     void ViewFoundProperty(int row);
     /// The contact of a row: its record, or the owner of its property. Raises 424 where it is gone.
     [[nodiscard]] const std::shared_ptr<Contact>& ContactOfRow(int row) const;
-    /// Makes the property of a row current, and its contact.
+    /// Makes the property of a row current, and its contact. Raises 424 where the contact is gone.
     void TakeProperty(int row);
 
     // FoundDeletes.cpp

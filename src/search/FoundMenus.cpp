@@ -63,6 +63,9 @@ bool FoundList::eventFilter(QObject* watched, QEvent* event)
         return QWidget::eventFilter(watched, event);
     const auto* asked = static_cast<QContextMenuEvent*>(event);
     if (asked->reason() == QContextMenuEvent::Keyboard && m_grid->SelectedRow() > 0) {
+        // As a right press does: the popup is about the current row, unless several are highlighted.
+        if (m_grid->SelectionCount() < 2)
+            m_grid->SetSelectedRow(m_grid->SelectedRow());
         const QModelIndex first = m_grid->model()->index(m_grid->SelectedRow() - 1, m_grid->columnAt(0));
         PopUpMenu(m_grid->viewport()->mapToGlobal(m_grid->visualRect(first).bottomLeft()));
     }
@@ -142,6 +145,10 @@ void FoundList::ShowContactCaptions()
 void FoundList::mnuHilitedContacts_Click()
 {
     Trap(u"frmMain mnuHilitedContacts_Click Error #"_s, Icon::Critical, [this] {
+        QAction& select = m_window.MainMenus().Entry(u"mnuSelectHilitedContacts"_s);
+        QAction& unselect = m_window.MainMenus().Entry(u"mnuUnselectHilitedContacts"_s);
+        select.setVisible(false);
+        unselect.setVisible(false);
         bool anySelected = false;
         bool anyUnselected = false;
         for (const Long id : HighlightedContacts()) {
@@ -149,8 +156,8 @@ void FoundList::mnuHilitedContacts_Click()
             if (anySelected && anyUnselected)
                 break;
         }
-        m_window.MainMenus().Entry(u"mnuSelectHilitedContacts"_s).setVisible(anyUnselected);
-        m_window.MainMenus().Entry(u"mnuUnselectHilitedContacts"_s).setVisible(anySelected);
+        select.setVisible(anyUnselected);
+        unselect.setVisible(anySelected);
     });
 }
 
@@ -206,8 +213,10 @@ void FoundList::ViewFoundItem()
             return;
         const HourGlass hourGlass;
         curContact = ContactOfRow(row);
-        if (auto* tree = Face<TreeFace>::Get())
-            tree->FindInTree(u"S"_s + CStr(curContact->subCategoryID));
+        // A contact whose subcategory is no longer in the tree has no list to be shown in.
+        auto* tree = Face<TreeFace>::Get();
+        if (tree != nullptr && !tree->FindInTree(u"S"_s + CStr(curContact->subCategoryID)))
+            throw RunTimeError(ErrorNumber::ObjectNotSet);
         if (ShowsProperties())
             ViewFoundProperty(row);
         else

@@ -56,6 +56,8 @@ RangeForm::RangeForm(const RangeWords& words)
     layout->addLayout(line);
 
     connect(m_condition, &QComboBox::currentIndexChanged, this, &RangeForm::cboCondition_Click);
+    // The condition that stands already may be chosen again.
+    connect(m_condition, &QComboBox::activated, this, &RangeForm::cboCondition_Click);
     cboCondition_Click();
     m_first->setFocus();
 }
@@ -78,6 +80,11 @@ QString RangeForm::Condition() const
 bool RangeForm::IsRange() const
 {
     return Condition() == m_rangeCondition;
+}
+
+void RangeForm::ShowRange()
+{
+    m_condition->setCurrentText(m_rangeCondition);
 }
 
 QString RangeForm::OneValue(const QString& text) const
@@ -103,7 +110,9 @@ bool RangeForm::KeyPreview(QKeyEvent* event)
 {
     if (event->type() != QEvent::KeyPress || (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter))
         return false;
-    cmdbutton_Click(Ok);
+    // An Enter that was held down when the window came has answered what was there before.
+    if (!event->isAutoRepeat())
+        cmdbutton_Click(Ok);
     return true;
 }
 

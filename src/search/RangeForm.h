@@ -33,6 +33,8 @@ protected:
 
     [[nodiscard]] QString Condition() const;
     [[nodiscard]] bool IsRange() const;
+    /// Chooses the condition of two values.
+    void ShowRange();
     /// The criterion of any other condition: "= ", or the condition's own words, and the value.
     [[nodiscard]] QString OneValue(const QString& text) const;
     [[nodiscard]] QLineEdit& First() const { return *m_first; }

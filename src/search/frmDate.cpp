@@ -62,11 +62,14 @@ void frmDate::EntryGotFocus(QLineEdit& entry)
     Rows().addWidget(m_picCalendar, &entry == &First() ? 0 : 1, calendarColumn);
 }
 
-bool frmDate::IsValid(QLineEdit& entry) const
+bool frmDate::IsValid(QLineEdit& entry)
 {
     if (entry.text().isEmpty() || IsDate(entry.text()))
         return true;
     MsgBox(u"Please check that the date is valid."_s, Buttons::Ok, Icon::Information, u"Invalid Date"_s);
+    // A second date is asked for its sense while it is hidden as well: the person must see what is meant.
+    if (&entry == &Second())
+        ShowRange();
     entry.setFocus();
     return false;
 }
@@ -109,6 +112,8 @@ void frmDate::picCalendar_Click()
         gReturnValue = AskForDate(windowTitle(), shown ? ToDateTime(*shown).date() : Clock::Today());
         // A calendar that was cancelled empties the entry, which is meant.
         m_active->setText(gReturnValue);
+        // The calendar's answer is not this window's.
+        gReturnValue.clear();
         m_active->setFocus();
     });
 }

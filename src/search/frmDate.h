@@ -17,7 +17,7 @@ protected:
     void EntryGotFocus(QLineEdit& entry) override;
 
 private:
-    [[nodiscard]] bool IsValid(QLineEdit& entry) const;
+    [[nodiscard]] bool IsValid(QLineEdit& entry);
     void OkClick();
     void picCalendar_Click();
 

@@ -120,7 +120,9 @@ bool frmSetValue::KeyPreview(QKeyEvent* event)
 {
     if (event->type() != QEvent::KeyPress || (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter))
         return false;
-    cmdbutton_Click(Ok);
+    // An Enter that was held down when the window came has answered what was there before.
+    if (!event->isAutoRepeat())
+        cmdbutton_Click(Ok);
     return true;
 }
 

@@ -38,6 +38,10 @@ private Q_SLOTS:
     void ABadDateKeepsTheWindow();
     void TheCalendarServesTheDateWithTheFocus();
     void ACancelledCalendarEmptiesTheDate();
+    void TheCalendarsAnswerIsNotTheWindows();
+    void ASecondDateThatIsHiddenAndBadIsShown();
+    void AHeldEnterAnswersNothing_data();
+    void AHeldEnterAnswersNothing();
     void AmountsAsTexts_data();
     void AmountsAsTexts();
     void AmountsAreComparedAsTexts();
@@ -256,6 +260,59 @@ void tst_SearchDialogs::ACancelledCalendarEmptiesTheDate()
     });
 }
 
+void tst_SearchDialogs::TheCalendarsAnswerIsNotTheWindows()
+{
+    Work<frmDate>("frmDate", [](Form& form) {
+        const WhenFormOpens calendar(u"frmCalendar"_s, [](Form& shown) { TypeKey(shown, Qt::Key_Return); });
+        Control<QToolButton>(form, u"picCalendar"_s).click();
+        QCOMPARE(Edit(form, "txtDate1").text(), u"11/22/2026"_s);
+        form.close();
+    });
+    QCOMPARE(gReturnValue, QString());
+}
+
+void tst_SearchDialogs::ASecondDateThatIsHiddenAndBadIsShown()
+{
+    ScriptedUser person;
+    Work<frmDate>("frmDate", [&](Form& form) {
+        ChooseCondition(form, u"From"_s);
+        Edit(form, "txtDate2").setText(u"13/13/2026"_s);
+        ChooseCondition(form, u"Before"_s);
+        QVERIFY(!Edit(form, "txtDate2").isVisible());
+        person.Expect(u"Invalid Date"_s, u"Please check that the date is valid."_s);
+        TypeKey(form, Qt::Key_Return);
+        QVERIFY(form.isVisible());
+        QVERIFY(Edit(form, "txtDate2").isVisible());
+        QVERIFY(Edit(form, "txtDate2").hasFocus());
+        Edit(form, "txtDate2").clear();
+    });
+}
+
+void tst_SearchDialogs::AHeldEnterAnswersNothing_data()
+{
+    QTest::addColumn<QString>("window");
+    QTest::newRow("a value") << u"frmSetValue"_s;
+    QTest::newRow("a date") << u"frmDate"_s;
+    QTest::newRow("an amount") << u"frmCurrency"_s;
+}
+
+void tst_SearchDialogs::AHeldEnterAnswersNothing()
+{
+    QFETCH(QString, window);
+    const WhenFormOpens opened(window, [](Form& form) {
+        HoldKey(form, Qt::Key_Return);
+        QVERIFY(form.isVisible());
+        TypeKey(form, Qt::Key_Return);
+        QVERIFY(!form.isVisible());
+    });
+    if (window == "frmDate"_L1)
+        frmDate().ShowModal(nullptr);
+    else if (window == "frmCurrency"_L1)
+        frmCurrency().ShowModal(nullptr);
+    else
+        frmSetValue(u"City"_s, ValueInput::txtLongString, {}).ShowModal(nullptr);
+}
+
 void tst_SearchDialogs::AmountsAsTexts_data()
 {
     QTest::addColumn<QString>("condition");
@@ -314,6 +371,11 @@ void tst_SearchDialogs::TheSecondEntryComesWithTheRangeAlone()
         // What is pasted keeps its digits and points.
         QGuiApplication::clipboard()->setText(u"$ 1,250.5"_s);
         TypeKey(form, Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(Edit(form, "txtAmount1").text(), u"1250.5"_s);
+        // Also by the mouse, behind a key that found nothing to take away.
+        Edit(form, "txtAmount1").clear();
+        TypeKey(form, Qt::Key_Backspace);
+        Edit(form, "txtAmount1").paste();
         QCOMPARE(Edit(form, "txtAmount1").text(), u"1250.5"_s);
     });
 }

@@ -39,10 +39,12 @@ private Q_SLOTS:
     void FieldsOfProperties();
     void AnUnknownFieldIsTold();
     void ADateThatIsNoneEndsItsTestAlone();
-    void TheSearchReadsItsRowsInItsOrder();
+    void TheSearchReadsAllRowsButTwo();
     void TheWalkGoesByAndOrAndNothing_data();
     void TheWalkGoesByAndOrAndNothing();
-    void EveryBadRangeIsReportedOnceForEachProperty();
+    void EveryBadRangeIsReportedOnceForEachPrice();
+    void FeesFindNothingAndTheRentIsNotRead_data();
+    void FeesFindNothingAndTheRentIsNotRead();
 
 private:
     static std::shared_ptr<Contact> AddContact(Long id, const QString& first, const QString& last)
@@ -234,7 +236,7 @@ void tst_SearchRules::FieldsOfProperties_data()
     row("Expired", "No", true);
     row("Closed", "No", true); // no date at all
     row("Closed", "Yes", false);
-    row("Sold", "Yes", true); // of this very moment
+    row("Sold", "Yes", true);
 }
 
 void tst_SearchRules::FieldsOfProperties()
@@ -280,7 +282,7 @@ void tst_SearchRules::ADateThatIsNoneEndsItsTestAlone()
     QVERIFY(!FindInProps(u"No"_s, u"Expired"_s, Qt::CaseInsensitive)(property));
 }
 
-void tst_SearchRules::TheSearchReadsItsRowsInItsOrder()
+void tst_SearchRules::TheSearchReadsAllRowsButTwo()
 {
     // Each row once, but for the two that are never read; and every name is one that the tests know.
     const ScriptedUser person;
@@ -334,18 +336,20 @@ void tst_SearchRules::TheWalkGoesByAndOrAndNothing()
     QTEST(found.join(u' '), "found");
 }
 
-void tst_SearchRules::EveryBadRangeIsReportedOnceForEachProperty()
+void tst_SearchRules::EveryBadRangeIsReportedOnceForEachPrice()
 {
     const std::shared_ptr<Contact> contact = AddContact(1, u"Ann"_s, u"Lee"_s);
     for (Long id = 1; id <= 3; ++id) {
         auto property = std::make_shared<PropDetail>();
         property->RecID = id;
         property->City = u"Salem"_s;
+        if (id != 2)
+            property->AskingPrice = CCur(Long{id * 1000});
         contact->Properties.Add(id, property);
     }
     AddContact(2, u"Bob"_s, u"Ray"_s);
     ScriptedUser person;
-    for (int i = 0; i < 3; ++i)
+    for (int i = 0; i < 2; ++i) // one has no price
         person.Expect(u" Error #13"_s, u"Type mismatch"_s);
     SearchCriteria criteria;
     criteria.Values.resize(37);
@@ -358,6 +362,39 @@ void tst_SearchRules::EveryBadRangeIsReportedOnceForEachProperty()
     criteria.Values[4] = u"Salem"_s;
     FindProperties(criteria, [&](const PropDetail&) { ++found; });
     QCOMPARE(found, 3);
+}
+
+void tst_SearchRules::FeesFindNothingAndTheRentIsNotRead_data()
+{
+    QTest::addColumn<QStringList>("rows"); // "row=value"
+    QTest::addColumn<bool>("isAnd");
+    QTest::addColumn<int>("found");
+    QTest::newRow("the rent alone is no criterion") << QStringList{u"26=Equal To $9.00"_s} << true << 2;
+    QTest::newRow("nor beside another") << QStringList{u"26=More Than $1.00"_s, u"5=Salem"_s} << true << 1;
+    QTest::newRow("a fee empties an And") << QStringList{u"18=More Than $1.00"_s, u"5=Salem"_s} << true << 0;
+    QTest::newRow("and adds nothing to an Or") << QStringList{u"18=More Than $1.00"_s, u"5=Salem"_s} << false << 1;
+}
+
+void tst_SearchRules::FeesFindNothingAndTheRentIsNotRead()
+{
+    QFETCH(QStringList, rows);
+    QFETCH(bool, isAnd);
+    const std::shared_ptr<Contact> contact = AddContact(1, u"Ann"_s, u"Lee"_s);
+    for (const auto& [id, city] : {std::pair(Long{1}, u"Salem"_s), {Long{2}, u"Dover"_s}}) {
+        auto property = std::make_shared<PropDetail>();
+        property->RecID = id;
+        property->City = city;
+        property->MaintFee = CCur(u"125.5"_s);
+        contact->Properties.Add(id, property);
+    }
+    SearchCriteria criteria;
+    criteria.Values.resize(37);
+    criteria.And = isAnd;
+    for (const QString& row : rows)
+        criteria.Values[row.section(u'=', 0, 0).toInt() - 1] = row.section(u'=', 1);
+    int found = 0;
+    FindProperties(criteria, [&](const PropDetail&) { ++found; });
+    QTEST(found, "found");
 }
 
 QTEST_GUILESS_MAIN(tst_SearchRules)

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QTest>
 #include <QWindow>
 
@@ -45,6 +46,13 @@ void TypeText(const QWidget& window, const QString& text)
 void TypeKey(const QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
     QTest::keyClick(window.window()->windowHandle(), key, modifiers);
+}
+
+void HoldKey(const QWidget& window, Qt::Key key)
+{
+    const QString text = key == Qt::Key_Return ? QStringLiteral("\r") : QString();
+    QKeyEvent press(QEvent::KeyPress, key, {}, text, true);
+    QCoreApplication::sendEvent(window.window()->windowHandle(), &press);
 }
 
 WhenWindowOpens::WhenWindowOpens(QString what, Match match, Script script)

@@ -28,6 +28,8 @@ void ClickOn(const QWidget& window, const QString& name);
 /// its release where the focus went.
 void TypeText(const QWidget& window, const QString& text);
 void TypeKey(const QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = {});
+/// Sends the press of a key that is still held down: a repetition.
+void HoldKey(const QWidget& window, Qt::Key key);
 
 /// Waits for a modal window and works it. Make one before the step that opens the window; the script runs inside the
 /// window's own loop, and the window is closed on every way out. A window that never came fails the test when this goes

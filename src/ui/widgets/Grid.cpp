@@ -1,5 +1,6 @@
 #include "ui/widgets/Grid.h"
 
+#include "core/FieldRules.h"
 #include "core/RunTimeError.h"
 #include "ui/widgets/GridDelegate.h"
 #include "ui/widgets/GridFit.h"
@@ -282,8 +283,15 @@ void Grid::SetSelectedRow(int row)
         return;
     }
     CheckRow(row);
-    if (Columns() > 0)
-        SelectCell(row, std::max(SelectedCol(), 1));
+    if (Columns() == 0)
+        return;
+    int column = SelectedCol();
+    if (column == 0) {
+        column = 1;
+        while (column < Columns() && isColumnHidden(column - 1))
+            ++column;
+    }
+    SelectCell(row, column);
 }
 
 int Grid::SelectedCol() const
@@ -452,6 +460,9 @@ void Grid::keyPressEvent(QKeyEvent* event)
             Q_EMIT ColumnClick(SelectedCol());
         return;
     }
+    // An Enter that is still held down, from the boxes and windows before, opens nothing in the list beneath.
+    if (event->isAutoRepeat() && ascii == Key::Enter)
+        return;
     Q_EMIT KeyDown(KeyCode(*event));
     if (!alive.isNull() && ascii != 0)
         Q_EMIT KeyPress(ascii);

@@ -33,7 +33,7 @@ void SortGrid(Grid& grid, int column)
 {
     SortType type = grid.Column(column).Sort;
     int row = 1;
-    while (row < grid.Rows() && grid.CellText(row, column).isEmpty())
+    while (row <= grid.Rows() && (!grid.RowVisible(row) || grid.CellText(row, column).isEmpty()))
         ++row;
     if (row <= grid.Rows() && IsDate(grid.CellText(row, column)))
         type = SortType::Date;

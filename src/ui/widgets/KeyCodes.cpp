@@ -59,6 +59,9 @@ int KeyAscii(const QKeyEvent& event)
     default:
         break;
     }
+    // Under Alt a letter is no text; Ctrl and Alt together make the third sign of a key.
+    if (event.modifiers().testFlag(Qt::AltModifier) && !event.modifiers().testFlag(Qt::ControlModifier))
+        return 0;
     const QString text = event.text();
     return !text.isEmpty() && text.at(0).isPrint() ? text.at(0).unicode() : 0;
 }
