@@ -268,6 +268,10 @@ void tst_Reports::WhatIsUntickedIsLeftOut()
         TypeKey(form, Qt::Key_Down);
         TypeKey(form, Qt::Key_Space);
         QCOMPARE(grid.RowItemData(10), -1);
+        // Below the rows there is nothing to tick.
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, QPoint(20, grid.viewport()->height() - 2));
+        QTest::mouseClick(grid.viewport(), Qt::RightButton, {}, grid.visualRect(grid.model()->index(9, 1)).center());
+        QCOMPARE(grid.RowItemData(10), -1);
         ClickOn(form, u"cmdButton_2"_s);
     });
     QCOMPARE(Paragraphs(m_processor->Opened().value(0)),
@@ -295,6 +299,8 @@ void tst_Reports::HeaderAndFooterAreAskedFor()
         footer.setFocus();
         TypeKey(form, Qt::Key_Space);
         QCOMPARE(footer.text(), u"Below & beyond"_s);
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, u"\r"_s, true);
+        QCoreApplication::sendEvent(&footer, &held); // a key that is held asks once
         ClickOn(form, u"cmdButton_2"_s);
     });
     const QMap<QString, QByteArray> parts = PackageParts(m_processor->Opened().value(0));
