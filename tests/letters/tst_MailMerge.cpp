@@ -227,7 +227,8 @@ private Q_SLOTS:
         Study study;
         Study::Select({1});
         QVERIFY(QDir(study.Database.Folder()).mkdir(u"Data/MailMergeSource.txt"_s));
-        study.Person.Expect(u"frmMain MailMerge Error #70"_s, u"Permission denied"_s);
+        study.Person.Expect(u"frmMain MailMerge Error #70"_s,
+                            u"Permission denied: "_s + AppFile(u"\\Data\\MailMergeSource.txt"_s));
         MailMerge(u"!<FirstName>!"_s);
         QCOMPARE(m_word->Opened(), QStringList());
     }
