@@ -5,11 +5,13 @@
 #include "support/WordReader.h"
 
 #include "letters/reports/frmCreateWordFile.h"
+#include "letters/reports/Reports.h"
 #include "model/Categories.h"
 #include "model/Contact.h"
 #include "model/faces.h"
 #include "model/LoadContacts.h"
 #include "model/Main.h"
+#include "model/Openers.h"
 #include "model/PropDetail.h"
 #include "ui/widgets/Grid.h"
 
@@ -91,6 +93,7 @@ class tst_Reports : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
+    void EachMenuOpensItsMode();
     void EachModeReportsItsRecords_data();
     void EachModeReportsItsRecords();
     void ThePagesAreRead();
@@ -161,6 +164,30 @@ void tst_Reports::ClickRow(const Form& form, int row)
     auto& grid = Control<Grid>(form, u"Grid1"_s);
     const QRect place = grid.visualRect(grid.model()->index(row - 1, 1));
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, place.center());
+}
+
+void tst_Reports::EachMenuOpensItsMode()
+{
+    PlugReports();
+    const std::pair<std::function<void()>, QLatin1StringView> menus[]{
+        {gOpeners.WordFileOfSelected, "Selected"_L1},
+        {gOpeners.WordFileOfListed, "Listed"_L1},
+        {gOpeners.WordFileOfFoundContacts, "Found"_L1},
+        {gOpeners.WordFileOfHilitedContacts, "HilitedContact"_L1},
+        {gOpeners.WordFileOfFoundProperties, "FoundProperties"_L1},
+        {gOpeners.WordFileOfHilitedProperties, "HilitedProperty"_L1},
+        {gOpeners.WordFileOfProperty, "Property"_L1},
+    };
+    for (const auto& [open, mode] : menus) {
+        QString opened;
+        const WhenFormOpens window(u"frmCreateWordFile"_s, [&opened](Form& form) {
+            opened = static_cast<frmCreateWordFile&>(form).Mode;
+            TypeKey(form, Qt::Key_Escape);
+        });
+        open();
+        QCOMPARE(opened, QString(mode));
+    }
+    gOpeners = {};
 }
 
 void tst_Reports::EachModeReportsItsRecords_data()
