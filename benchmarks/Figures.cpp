@@ -7,8 +7,9 @@
 
 namespace {
 
-constexpr double memoryLimit = 4096;  // bytes for a contact
-constexpr double cellLimit = 64;      // bytes for a cell of the found list, beside the texts of the records
+constexpr double memoryLimit = 4096; // bytes for a contact
+constexpr double cellLimit = 64;     // bytes for a cell of the found list, beside the texts of the records
+constexpr double letterMemoryGrowth = 1.3;
 constexpr double newContactLimit = 4; // from the smallest size to the largest
 
 constexpr auto program = "program";
@@ -106,6 +107,8 @@ std::vector<Figures::Line> Figures::Lines(const std::vector<int>& sizes) const
         AddNewContact(lines, sizes);
     if (WasRun("Memory"))
         AddMemory(lines, sizes);
+    if (WasRun("LetterMemory"))
+        AddLetterMemory(lines, sizes);
     for (const char* list : {"Contacts", "Properties"})
         AddCells(lines, sizes, list);
     return lines;
@@ -142,6 +145,15 @@ void Figures::AddCells(std::vector<Line>& lines, const std::vector<int>& sizes, 
         lines.push_back(
             {Text("Bytes of a cell, %s, %d", list.c_str(), contacts), Text("%.0f bytes", bytes), "", bytes, cellLimit});
     }
+}
+
+void Figures::AddLetterMemory(std::vector<Line>& lines, const std::vector<int>& sizes) const
+{
+    // It grows linearly where a letter of many costs what a letter of few does.
+    const double first = At("LetterMemory", program, sizes[0]);
+    const double more = At("LetterMemory", program, sizes[1]);
+    lines.push_back({Text("Memory of a letter, %d to %d", sizes[0], sizes[1]), Text("%.0f bytes", more),
+                     Text("%.0f bytes", first), more / first, letterMemoryGrowth});
 }
 
 int Figures::PrintTable(const std::vector<int>& sizes) const

@@ -45,6 +45,7 @@ private:
     [[nodiscard]] Line GrowthBeside(const Figure& figure, int from, int to) const;
     void AddNewContact(std::vector<Line>& lines, const std::vector<int>& sizes) const;
     void AddMemory(std::vector<Line>& lines, const std::vector<int>& sizes) const;
+    void AddLetterMemory(std::vector<Line>& lines, const std::vector<int>& sizes) const;
     void AddCells(std::vector<Line>& lines, const std::vector<int>& sizes, const std::string& list) const;
     [[nodiscard]] std::vector<Line> Lines(const std::vector<int>& sizes) const;
 

@@ -5,11 +5,13 @@
 //   bench_child load FOLDER         the program reads everything, without a window
 //   bench_child empty-window        an empty window of Qt
 //   bench_child start FOLDER        the program up to its main window
+//   bench_child letters N           a merge of so many letters, without a window
 //
 // When the task is done (a window: shown, painted and back in its event loop) it prints the seconds that the task took,
 // the seconds of the processor that a load took without its opening, and its peak memory in kilobytes, and ends.
 
 #include "BareStore.h"
+#include "Letters.h"
 #include "Program.h"
 #include "Samples.h"
 
@@ -21,6 +23,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QWidget>
 #include <string>
@@ -114,6 +117,13 @@ int main(int argc, char** argv)
         const double opened = ProcessorSeconds();
         const BareContents contents = store.Load();
         Answer(ProcessorSeconds() - opened);
+        return EXIT_SUCCESS;
+    }
+    if (task == "letters") {
+        const QCoreApplication application(argc, argv);
+        const QTemporaryDir made;
+        MakeLetters(made.path(), folder.toInt());
+        Answer();
         return EXIT_SUCCESS;
     }
     if (task == "load") {

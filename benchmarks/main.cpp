@@ -37,6 +37,7 @@ int main(int argc, char** argv)
         RegisterAlerts(contacts);
         RegisterTransfer(contacts);
         RegisterProperties(contacts);
+        RegisterLetters(contacts);
         RegisterLabels(contacts);
     }
     Figures figures;

@@ -60,10 +60,7 @@ void Fill(QListWidget& list, std::span<const LetterField> fields)
 FormLetters::FormLetters() : m_ui(std::make_unique<Ui::FormLetters>())
 {
     m_ui->setupUi(this);
-    // A letter that is only looked at is there to be read.
-    QPalette readable = m_ui->Letter->palette();
-    readable.setColor(QPalette::Disabled, QPalette::Text, readable.color(QPalette::Active, QPalette::Text));
-    m_ui->Letter->setPalette(readable);
+    KeepLetterReadable();
     for (QLabel* label : {m_ui->lblForms, m_ui->lblContactFields, m_ui->lblPropFields}) {
         m_captions.insert(label, label->text());
         label->installEventFilter(this);
@@ -107,27 +104,52 @@ void FormLetters::SetUpPicker(QListWidget& list, PictureBox& picture, QLabel& la
     connect(&picture, &PictureBox::clicked, this, insert);
 }
 
+void FormLetters::KeepLetterReadable()
+{
+    // A letter that is only looked at is there to be read.
+    QPalette readable;
+    readable.setColor(QPalette::Disabled, QPalette::Text, palette().color(QPalette::Active, QPalette::Text));
+    m_ui->Letter->setPalette(readable);
+}
+
+void FormLetters::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        KeepLetterReadable();
+    QWidget::changeEvent(event);
+}
+
 // Loading and looking.
 
 void FormLetters::LoadFormLetters()
 {
     Trap(u"frmMain LoadFormLetters Error #"_s, Icon::Critical, [this] {
-        const bool editing = m_ui->Letter->isEnabled();
-        const std::vector<LetterLibrary::Entry> letters = m_library.Load();
         {
             const QSignalBlocker quiet(m_ui->lstForms);
             m_ui->lstForms->clear();
-            for (const LetterLibrary::Entry& letter : letters)
+            for (const LetterLibrary::Entry& letter : m_library.Load())
                 AddForm(letter);
-            m_ui->lstForms->setCurrentRow(letters.empty() ? -1 : 0);
+            m_ui->lstForms->setCurrentRow(m_ui->lstForms->count() == 0 ? -1 : 0);
         }
-        if (editing) {
-            // The letter that it was made from may be another one now.
-            m_editMode = Action::New;
+        if (m_ui->Letter->isEnabled())
+            KeepEditing();
+        else
+            ShowWhatIsThere();
+    });
+}
+
+void FormLetters::KeepEditing()
+{
+    if (m_editMode != Action::Modify)
+        return;
+    const QSignalBlocker quiet(m_ui->lstForms);
+    for (int row = 0; row < m_ui->lstForms->count(); ++row) {
+        if (m_ui->lstForms->item(row)->data(Qt::UserRole).value<Long>() == m_modifiedID) {
+            m_ui->lstForms->setCurrentRow(row);
             return;
         }
-        ShowWhatIsThere();
-    });
+    }
+    m_editMode = Action::New; // the letter that it was made from is not there any more
 }
 
 void FormLetters::AddForm(const LetterLibrary::Entry& letter)
@@ -146,6 +168,12 @@ void FormLetters::SelectForm(int row)
 void FormLetters::lstForms_Click()
 {
     Trap(u"frmMain lstForms_Click Error #"_s, Icon::Critical, [this] {
+        // The pictures work on the selected letter: Ctrl and a click, or Ctrl+Space, do not take the selection away.
+        QListWidgetItem* line = m_ui->lstForms->currentItem();
+        if (!HasSelection() && line != nullptr) {
+            const QSignalBlocker quiet(m_ui->lstForms);
+            line->setSelected(true);
+        }
         if (HasSelection())
             ShowLetter(m_library.Text(SelectedID()));
     });
@@ -179,7 +207,8 @@ void FormLetters::ShowLetter(const QString& text)
 
 void FormLetters::ShowLabelType(const QString& labelNumber)
 {
-    m_ui->lblLabelType->setText(labelNumber);
+    // A product that was kept without a number still leaves something to press.
+    m_ui->lblLabelType->setText(labelNumber.isEmpty() ? u"Choose"_s : labelNumber);
 }
 
 // The field pickers.

@@ -48,25 +48,29 @@ public:
     void ProcessCmdButtons(int index);
 
     // LettersFace
-    /// A letter that is being written stays on the screen, and is a new one from then on.
+    /// A letter that is being written stays on the screen; it becomes a new one where its own is gone.
     void LoadFormLetters() override;
     void ShowLabelType(const QString& labelNumber) override;
 
 protected:
     /// Brings a label's own caption back, and lets a letter that is only looked at be scrolled.
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
     void SetUpPictures();
     void SetUpPicker(QListWidget& list, PictureBox& picture, QLabel& label, void (FormLetters::*insert)());
     void SetUpButtons();
+    void KeepLetterReadable();
 
     void EnableFormBtn(Action action);
     void DisableFormBtn(Action action);
     void EnableInsert(bool enabled);
     void BeginEditing(Action action);
     void EndEditing(bool showStartText);
+    /// Goes on with the same letter in a list that was filled anew.
+    void KeepEditing();
     /// The selected letter, or the start text, and the pictures that need a letter.
     void ShowWhatIsThere();
 
@@ -99,4 +103,5 @@ private:
     LetterLibrary m_library;
     QHash<const QLabel*, QString> m_captions; ///< of the labels that say for a while what a picture does
     Action m_editMode = Action::New;          ///< New or Modify
+    Long m_modifiedID = 0;                    ///< of the letter that is being modified
 };

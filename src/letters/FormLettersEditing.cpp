@@ -79,6 +79,8 @@ void FormLetters::ShowWhatIsThere()
         lstForms_Click();
     else
         ShowLetter(StartText());
+    if (!any && m_ui->picForms_5->hasFocus())
+        m_ui->picForms_1->setFocus();
     for (const Action action : {Action::Modify, Action::Delete, Action::Rename}) {
         if (any)
             EnableFormBtn(action);
@@ -90,13 +92,15 @@ void FormLetters::ShowWhatIsThere()
 void FormLetters::BeginEditing(Action action)
 {
     m_editMode = action;
+    m_modifiedID = SelectedID();
     m_ui->Letter->setEnabled(true);
+    // A control that is disabled with the focus passes it on as a Tab would, and the headings would follow.
+    m_ui->Letter->setFocus();
     m_ui->lstForms->setEnabled(false);
     if (action == Action::New) {
         ShowLetter(u"Type form content here"_s);
         m_ui->Letter->selectAll();
     }
-    m_ui->Letter->setFocus();
     EnableInsert(true);
     for (QListWidget* list : {m_ui->lstContactFields, m_ui->lstPropFields}) {
         if (Chosen(*list) == nullptr)
@@ -110,10 +114,10 @@ void FormLetters::BeginEditing(Action action)
 
 void FormLetters::EndEditing(bool showStartText)
 {
-    m_ui->Letter->setEnabled(false);
     m_ui->lstForms->setEnabled(true);
     m_ui->lstForms->setFocus();
     EnableInsert(false);
+    m_ui->Letter->setEnabled(false);
     if (HasSelection()) {
         lstForms_Click();
         for (const Action other : {Action::Modify, Action::Delete, Action::Rename})
@@ -136,7 +140,7 @@ bool FormLetters::SaveForm()
             return false;
         }
         if (m_editMode == Action::Modify) {
-            m_library.SetText(SelectedID(), text);
+            m_library.SetText(m_modifiedID, text);
             return true;
         }
         const QString name = AskFor(u"Save as: "_s);

@@ -90,13 +90,13 @@ QString LabelSource(Recordset& rows)
 void WriteSourceFile(const QString& path, const QString& text)
 {
     if (!QFileInfo(QFileInfo(path).path()).isDir())
-        throw RunTimeError(ErrorNumber::PathNotFound);
+        throw RunTimeError(ErrorNumber::PathNotFound, u"Path not found: "_s + path);
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        throw RunTimeError(ErrorNumber::PermissionDenied);
+        throw RunTimeError(ErrorNumber::PermissionDenied, u"Permission denied: "_s + path);
     // It holds people's addresses, and it stays.
     file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     const QByteArray bytes = ToCodePage1252(text);
     if (file.write(bytes) != bytes.size() || !file.flush())
-        throw RunTimeError(ErrorNumber::DiskFull);
+        throw RunTimeError(ErrorNumber::DiskFull, u"Disk full: "_s + path);
 }

@@ -29,8 +29,10 @@ frmLabelType::frmLabelType() : Form(u"frmLabelType"_s, Qt::Dialog), m_ui(std::ma
     m_buttons = new HoverButtonArray(*this, {{Cancel, u"Cancel"_s, u"Cancel"_s}, {Ok, u"Ok"_s, u"Ok"_s}});
     connect(m_buttons, &HoverButtonArray::Click, this, &frmLabelType::cmdButton_Click);
     connect(m_ui->lstProducts, &QListWidget::itemSelectionChanged, this, &frmLabelType::lstProducts_Click);
+    connect(m_ui->lstNumbers, &QListWidget::itemSelectionChanged, this,
+            [this] { m_buttons->SetEnabled(Ok, Chosen(*m_ui->lstNumbers) != nullptr); });
     connect(m_ui->lstNumbers, &QListWidget::itemDoubleClicked, this, [this] { cmdButton_Click(Ok); });
-    // There is nothing to keep before a product is chosen.
+    // There is nothing to print on before a number is chosen.
     m_buttons->SetEnabled(Ok, false);
     Form_Load();
     m_ui->lstProducts->setFocus();
@@ -78,7 +80,7 @@ void frmLabelType::ShowChoice()
             break;
         }
     }
-    const QList<QListWidgetItem*> numbers = m_ui->lstNumbers->findItems(gSettings.LabelNumber, Qt::MatchFixedString);
+    const QList<QListWidgetItem*> numbers = m_ui->lstNumbers->findItems(gSettings.LabelNumber, Qt::MatchExactly);
     if (!numbers.isEmpty())
         m_ui->lstNumbers->setCurrentItem(numbers.front());
 }
@@ -87,8 +89,8 @@ void frmLabelType::lstProducts_Click()
 {
     Trap(u"frmLabelType lstProducts_Click Error #"_s, Icon::Critical, [this] {
         m_ui->lstNumbers->clear();
+        m_buttons->SetEnabled(Ok, false);
         const QListWidgetItem* chosen = Chosen(*m_ui->lstProducts);
-        m_buttons->SetEnabled(Ok, chosen != nullptr);
         if (chosen == nullptr)
             return;
         m_types.ForEach([this, product = ProductOf(*chosen)](const QString&, const LabelType& type) {
@@ -102,7 +104,7 @@ void frmLabelType::cmdButton_Click(int index)
 {
     Trap(u"frmLabelType cmdButton_Click Error #"_s, Icon::Critical, [this, index] {
         if (index == Ok) {
-            if (Chosen(*m_ui->lstProducts) == nullptr)
+            if (Chosen(*m_ui->lstProducts) == nullptr || Chosen(*m_ui->lstNumbers) == nullptr)
                 return;
             Choose();
         }
@@ -112,9 +114,8 @@ void frmLabelType::cmdButton_Click(int index)
 
 void frmLabelType::Choose()
 {
-    const QListWidgetItem* number = Chosen(*m_ui->lstNumbers);
     gSettings.LabelProduct = static_cast<Integer>(ProductOf(*Chosen(*m_ui->lstProducts)));
-    gSettings.LabelNumber = number != nullptr ? number->text() : QString();
+    gSettings.LabelNumber = Chosen(*m_ui->lstNumbers)->text();
     if (auto* letters = Face<LettersFace>::Get())
         letters->ShowLabelType(gSettings.LabelNumber);
     UpdateSettings();

@@ -273,6 +273,88 @@ private Q_SLOTS:
         study.Press(3);
         QCOMPARE(FreshDatabase::Rows(u"Select FormName, FormText from FormLetters"_s).last(), u"Mine|My words"_s);
     }
+
+    void AReloadGoesOnWithTheLetterThatIsModified()
+    {
+        Study study;
+        study.Forms().setCurrentRow(1);
+        study.Press(2);
+        study.Write(u"My words"_s);
+        FreshDatabase::Execute(u"Delete from FormLetters Where ID=1"_s);
+        study.Page().LoadFormLetters();
+        QCOMPARE(study.Forms().currentItem()->text(), u"News"_s);
+        study.Press(3);
+        QCOMPARE(FreshDatabase::Rows(u"Select ID, FormName, FormText from FormLetters Where ID=2"_s),
+                 QStringList{u"2|News|My words"_s});
+        QCOMPARE(study.Names(), (QStringList{u"News"_s, u"Plain"_s}));
+    }
+
+    void AReloadShowsWhatTheFileHolds()
+    {
+        Study study;
+        FreshDatabase::Execute(u"Update FormLetters set FormText=Null Where ID=1"_s);
+        study.Page().LoadFormLetters();
+        QCOMPARE(study.Letter().toPlainText(), QString());
+        FreshDatabase::Execute(u"Delete from FormLetters"_s);
+        study.Page().LoadFormLetters();
+        QCOMPARE(study.Names(), QStringList());
+        QCOMPARE(study.Letter().toPlainText(), QString(startText));
+        QCOMPARE(study.Enabled(), u"1"_s);
+    }
+
+    void AWayToTheContactsAndBackLeavesTheList()
+    {
+        Study study;
+        study.Forms().setCurrentRow(1);
+        study.Main().ShowTab(static_cast<int>(frmMain::Tab::Contacts));
+        study.Main().ShowTab(static_cast<int>(frmMain::Tab::Letters));
+        QCOMPARE(study.Forms().currentRow(), 1);
+    }
+
+    void TheSelectedLetterCannotBeDeselected_data()
+    {
+        QTest::addColumn<bool>("byKey");
+        QTest::addRow("mouse") << false;
+        QTest::addRow("key") << true;
+    }
+
+    void TheSelectedLetterCannotBeDeselected()
+    {
+        QFETCH(bool, byKey);
+        Study study;
+        QListWidget& forms = study.Forms();
+        forms.setCurrentRow(1);
+        forms.setFocus();
+        if (byKey)
+            QTest::keyClick(&forms, Qt::Key_Space, Qt::ControlModifier);
+        else
+            QTest::mouseClick(forms.viewport(), Qt::LeftButton, Qt::ControlModifier,
+                              forms.visualItemRect(forms.item(1)).center());
+        QCOMPARE(forms.selectedItems().size(), 1);
+        QCOMPARE(study.Letter().toPlainText(), u"To !<FormattedName>! at !<MailAddr1>! "_s);
+        study.Press(2);
+        study.Write(u"Better words"_s);
+        study.Press(3);
+        QCOMPARE(FreshDatabase::Rows(u"Select FormText from FormLetters Where ID=2"_s), QStringList{u"Better words"_s});
+    }
+
+    void TheHeadingsFollowThePointerAlone()
+    {
+        Study study;
+        const QString fields = study.Caption(u"lblContactFields"_s);
+        study.Forms().setFocus();
+        study.Press(2);
+        QVERIFY2(study.Caption(u"lblForms"_s) != "New"_L1, qPrintable(study.Caption(u"lblForms"_s)));
+        study.Press(4);
+        QCOMPARE(study.Caption(u"lblContactFields"_s), fields);
+        FreshDatabase::Execute(u"Delete from FormLetters Where ID<>1"_s);
+        study.Page().LoadFormLetters();
+        study.Picture(5).setFocus();
+        study.Person.Expect(QString(pleaseConfirm), u"Do you want me to delete Hello?"_s, Answer::Yes);
+        TypeKey(study.Main(), Qt::Key_Space);
+        QVERIFY(study.Picture(1).hasFocus());
+        QVERIFY(study.Caption(u"lblForms"_s) != "Rename"_L1);
+    }
 };
 
 QTEST_MAIN(tst_FormLetters)

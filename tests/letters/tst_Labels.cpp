@@ -69,9 +69,39 @@ private Q_SLOTS:
         const WhenFormOpens window(u"frmLabelType"_s, [](Form& form) {
             QCOMPARE(Control<QListWidget>(form, u"lstProducts"_s).currentItem()->text(), u"Avery Letter Size"_s);
             QCOMPARE(Control<QListWidget>(form, u"lstNumbers"_s).currentItem()->text(), u"5162"_s);
-            Choose(form, u"Avery A4"_s, u"none"_s);
+            TypeKey(form, Qt::Key_Escape);
         });
         ClickOn(study.Main(), u"lblLabelType"_s);
+    }
+
+    void OkWaitsForANumber()
+    {
+        Study study;
+        const WhenFormOpens window(u"frmLabelType"_s, [](Form& form) {
+            auto& products = Control<QListWidget>(form, u"lstProducts"_s);
+            const auto& ok = Control<QWidget>(form, u"cmdbutton_2"_s);
+            products.setCurrentRow(0);
+            QVERIFY(!ok.isEnabled());
+            products.setFocus();
+            TypeKey(form, Qt::Key_Return);
+            QVERIFY(form.isVisible());
+            Control<QListWidget>(form, u"lstNumbers"_s).setCurrentRow(0);
+            QVERIFY(ok.isEnabled());
+            products.setCurrentRow(1); // takes the numbers of the other product away
+            QVERIFY(!ok.isEnabled());
+            TypeKey(form, Qt::Key_Escape);
+        });
+        ClickOn(study.Main(), u"lblLabelType"_s);
+        QCOMPARE(gSettings.LabelProduct, 0);
+        QCOMPARE(LabelCaption(study), u"Choose"_s);
+    }
+
+    void AProductWithoutANumberLeavesAButtonToChooseOne()
+    {
+        Study study;
+        FreshDatabase::Execute(u"Update Settings set LabelProduct=1, LabelNumber=''"_s);
+        study.StartAnew();
+        QCOMPARE(LabelCaption(study), u"Choose"_s);
     }
 
     void CancelKeepsTheLabel()
@@ -181,6 +211,37 @@ private Q_SLOTS:
         QVERIFY(place(u"89502"_s).top() - bob.top() > 2 * (place(u"Pine"_s).top() - bob.top()) + 1);
         QVERIFY(page.Lines.join(u' ').contains("NV  89501-1234"_L1) ||
                 page.Lines.join(u' ').contains("NV 89501-1234"_L1));
+    }
+
+    void ALongAddressKeepsItsFourLines_data()
+    {
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<double>("top");
+        QTest::addColumn<double>("height");
+        QTest::addRow("30 a sheet") << u"5160"_s << 12.7 << 25.4;
+        QTest::addRow("80 a sheet") << u"5167"_s << 12.7 << 12.7;
+    }
+
+    void ALongAddressKeepsItsFourLines()
+    {
+        QFETCH(QString, number);
+        Study study;
+        FreshDatabase::Execute(
+            u"Update Contacts set FirstName='Wilhelmina', LastName='Featherstonehaugh-Wolfeschlegel', "
+            "MailCity='Winchester-on-the-Severn Heights', MailZip='92688' Where ID=1"_s);
+        Study::Select({1});
+        gSettings.LabelProduct = 1;
+        gSettings.LabelNumber = number;
+        LabelsMerge();
+        const QList<QList<Page>> documents = RenderDocuments(m_word->Opened());
+        QCOMPARE(documents.value(0).size(), 1);
+        const QStringList lines = documents[0][0].Lines;
+        QCOMPARE(lines.size(), 4);
+        QVERIFY2(lines[3].endsWith("92688-1234"_L1), qPrintable(lines[3]));
+        QFETCH(double, top);
+        QFETCH(double, height);
+        for (const PageWord& word : documents[0][0].Words)
+            QVERIFY2(word.Place.top() > top && word.Place.bottom() < top + height, qPrintable(word.Text));
     }
 
     void AStateThatIsNullEndsTheRun()

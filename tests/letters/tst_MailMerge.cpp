@@ -222,12 +222,51 @@ private Q_SLOTS:
         CallWord(u"Come in."_s);
     }
 
+    void WhatIsOnTheScreenIsMerged()
+    {
+        Study study;
+        study.Press(2);
+        study.Write(u"Not saved yet"_s);
+        ClickOn(study.Main(), u"cmdbutton_7"_s);
+        QVERIFY(PackageParts(m_word->Opened().value(0)).value(u"word/document.xml"_s).contains("Not saved yet"));
+        QCOMPARE(study.Enabled(), u"34"_s);
+    }
+
+    void ABrokenRecordIsMergedAsItWasWritten_data()
+    {
+        QTest::addColumn<QString>("company");
+        QTest::addColumn<QString>("letter");
+        QTest::addColumn<QStringList>("lines"); // of each letter, joined
+        const QString letter = u"[!<Company>!][!<LastName>!]"_s;
+        QTest::addRow("tab") << u"a\tb"_s << letter << QStringList{u"[a][b]"_s};
+        QTest::addRow("line break") << u"a\r\nb"_s << letter << QStringList{u"[a][]"_s, u"[b][Lee]"_s};
+        QTest::addRow("name that starts another")
+            << u"a"_s << u"!<Company>!!<Zip4>!!<Zip>!"_s
+            << QStringList{u"a77Error! MergeField was not found in header record of data source."_s};
+    }
+
+    void ABrokenRecordIsMergedAsItWasWritten()
+    {
+        QFETCH(QString, company);
+        QFETCH(QString, letter);
+        QFETCH(QStringList, lines);
+        Study study;
+        FreshDatabase::Execute(u"Update Contacts set Company='"_s + company + u"' Where ID=1"_s);
+        Study::Select({1});
+        MailMerge(letter);
+        QStringList letters;
+        for (const Page& page : RenderDocuments(m_word->Opened()).value(0))
+            letters << page.Lines.join(u' ');
+        QCOMPARE(letters, lines);
+    }
+
     void AFolderThatCannotBeWrittenToIsReported()
     {
         Study study;
         Study::Select({1});
         QVERIFY(QDir(study.Database.Folder()).mkdir(u"Data/MailMergeSource.txt"_s));
-        study.Person.Expect(u"frmMain MailMerge Error #70"_s, u"Permission denied"_s);
+        study.Person.Expect(u"frmMain MailMerge Error #70"_s,
+                            u"Permission denied: "_s + AppFile(u"\\Data\\MailMergeSource.txt"_s));
         MailMerge(u"!<FirstName>!"_s);
         QCOMPARE(m_word->Opened(), QStringList());
     }

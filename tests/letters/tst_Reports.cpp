@@ -5,11 +5,13 @@
 #include "support/WordReader.h"
 
 #include "letters/reports/frmCreateWordFile.h"
+#include "letters/reports/Reports.h"
 #include "model/Categories.h"
 #include "model/Contact.h"
 #include "model/faces.h"
 #include "model/LoadContacts.h"
 #include "model/Main.h"
+#include "model/Openers.h"
 #include "model/PropDetail.h"
 #include "ui/widgets/Grid.h"
 
@@ -91,6 +93,7 @@ class tst_Reports : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
+    void EachMenuOpensItsMode();
     void EachModeReportsItsRecords_data();
     void EachModeReportsItsRecords();
     void ThePagesAreRead();
@@ -161,6 +164,30 @@ void tst_Reports::ClickRow(const Form& form, int row)
     auto& grid = Control<Grid>(form, u"Grid1"_s);
     const QRect place = grid.visualRect(grid.model()->index(row - 1, 1));
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, place.center());
+}
+
+void tst_Reports::EachMenuOpensItsMode()
+{
+    PlugReports();
+    const std::pair<std::function<void()>, QLatin1StringView> menus[]{
+        {gOpeners.WordFileOfSelected, "Selected"_L1},
+        {gOpeners.WordFileOfListed, "Listed"_L1},
+        {gOpeners.WordFileOfFoundContacts, "Found"_L1},
+        {gOpeners.WordFileOfHilitedContacts, "HilitedContact"_L1},
+        {gOpeners.WordFileOfFoundProperties, "FoundProperties"_L1},
+        {gOpeners.WordFileOfHilitedProperties, "HilitedProperty"_L1},
+        {gOpeners.WordFileOfProperty, "Property"_L1},
+    };
+    for (const auto& [open, mode] : menus) {
+        QString opened;
+        const WhenFormOpens window(u"frmCreateWordFile"_s, [&opened](Form& form) {
+            opened = static_cast<frmCreateWordFile&>(form).Mode;
+            TypeKey(form, Qt::Key_Escape);
+        });
+        open();
+        QCOMPARE(opened, QString(mode));
+    }
+    gOpeners = {};
 }
 
 void tst_Reports::EachModeReportsItsRecords_data()
@@ -268,6 +295,10 @@ void tst_Reports::WhatIsUntickedIsLeftOut()
         TypeKey(form, Qt::Key_Down);
         TypeKey(form, Qt::Key_Space);
         QCOMPARE(grid.RowItemData(10), -1);
+        // Below the rows there is nothing to tick.
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, QPoint(20, grid.viewport()->height() - 2));
+        QTest::mouseClick(grid.viewport(), Qt::RightButton, {}, grid.visualRect(grid.model()->index(9, 1)).center());
+        QCOMPARE(grid.RowItemData(10), -1);
         ClickOn(form, u"cmdButton_2"_s);
     });
     QCOMPARE(Paragraphs(m_processor->Opened().value(0)),
@@ -295,6 +326,8 @@ void tst_Reports::HeaderAndFooterAreAskedFor()
         footer.setFocus();
         TypeKey(form, Qt::Key_Space);
         QCOMPARE(footer.text(), u"Below & beyond"_s);
+        QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, {}, u"\r"_s, true);
+        QCoreApplication::sendEvent(&footer, &held); // a key that is held asks once
         ClickOn(form, u"cmdButton_2"_s);
     });
     const QMap<QString, QByteArray> parts = PackageParts(m_processor->Opened().value(0));

@@ -36,10 +36,10 @@ void CaptionLabel::leaveEvent(QEvent* event)
 
 void CaptionLabel::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        Q_EMIT MouseUp();
-    else
+    if (event->key() != Qt::Key_Space && event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         QLabel::keyPressEvent(event);
+    else if (!event->isAutoRepeat()) // held, the key would answer what it asks for
+        Q_EMIT MouseUp();
 }
 
 void CaptionLabel::mousePressEvent(QMouseEvent* event)

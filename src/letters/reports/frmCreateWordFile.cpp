@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <QHeaderView>
+#include <unordered_map>
 
 using namespace Qt::StringLiterals;
 
@@ -83,14 +84,30 @@ std::vector<Long> PropertiesOf(const QString& kind)
     return Shown(&PropertyListFace::Highlighted);
 }
 
-/// The property in its owner's hands, where its latest state is.
-const PropDetail& PropertyAt(Long id)
+using Owners = std::unordered_map<Long, std::shared_ptr<Contact>>;
+
+/// What LocatePropertyOwner answers for every property, by one walk over the contacts instead of one for each.
+Owners PropertyOwners()
 {
-    const std::shared_ptr<Contact> owner = LocatePropertyOwner(id);
-    const std::shared_ptr<PropDetail>* property = owner ? owner->Properties.Find(id) : nullptr;
-    if (property == nullptr || !*property)
+    Owners owners;
+    gContacts.ForEach([&](Long, const std::shared_ptr<Contact>& contact) {
+        if (!contact)
+            return;
+        contact->Properties.ForEach([&](Long id, const std::shared_ptr<PropDetail>& property) {
+            if (property)
+                owners.try_emplace(id, contact);
+        });
+    });
+    return owners;
+}
+
+/// The property in its owner's hands, where its latest state is.
+const PropDetail& PropertyAt(Long id, const Owners& owners)
+{
+    const auto owner = owners.find(id);
+    if (owner == owners.end())
         throw RunTimeError(ErrorNumber::ObjectNotSet);
-    return **property;
+    return **owner->second->Properties.Find(id);
 }
 
 template <typename Record>
@@ -118,7 +135,11 @@ frmCreateWordFile::frmCreateWordFile()
     Grid* grid = m_ui->Grid1;
     grid->SetMultiSelect(false);
     grid->horizontalHeader()->setStretchLastSection(true);
-    connect(grid, &Grid::MouseUp, this, &frmCreateWordFile::Grid1_MouseUp);
+    connect(grid, &Grid::MouseUp, this, [this, grid](Qt::MouseButton button, QPoint position) {
+        const bool onRow = grid->indexAt(grid->viewport()->mapFromGlobal(position)).isValid();
+        if (button == Qt::LeftButton && onRow)
+            Grid1_MouseUp();
+    });
     connect(grid, &Grid::KeyPress, this, [this](int keyAscii) {
         if (keyAscii == u' ')
             Grid1_MouseUp();
@@ -245,9 +266,10 @@ void frmCreateWordFile::CreateWordFile(const QString& kind)
 void frmCreateWordFile::CreatePropWordFile(const QString& kind)
 {
     Trap(u"frmCreateWordFile CreatePropWordFile Error #"_s, Icon::Critical, [&] {
+        const Owners owners = PropertyOwners();
         CreateFile([&] { return PropertiesOf(kind); },
-                   [](Word::Selection& selection, Long id, const auto& rows) {
-                       WriteRecord(selection, PropertyAt(id), PropertyReport(), rows);
+                   [&owners](Word::Selection& selection, Long id, const auto& rows) {
+                       WriteRecord(selection, PropertyAt(id, owners), PropertyReport(), rows);
                    });
     });
 }

@@ -56,7 +56,8 @@ DataSource DataSource::FromBytes(const QByteArray& bytes)
 
 qsizetype DataSource::ColumnOf(const QString& name) const
 {
-    for (qsizetype i = 0; i < m_columns.size(); ++i) {
+    // A tab at the end of the header leaves a column without a name, which no field can mean.
+    for (qsizetype i = 0; i < m_columns.size() && !name.isEmpty(); ++i) {
         if (m_columns[i].compare(name, Qt::CaseInsensitive) == 0)
             return i;
     }

@@ -2,10 +2,10 @@
 
 #include "letters/word/Document.h"
 #include "letters/word/DocumentText.h"
+#include "letters/word/LabelLook.h"
 #include "letters/word/Story.h"
 
 #include <algorithm>
-#include <cmath>
 #include <QXmlStreamWriter>
 
 using namespace Qt::StringLiterals;
@@ -14,17 +14,13 @@ namespace Word {
 
 namespace {
 
-/// From 1/100 mm.
-int Twips(int length)
-{
-    return int(std::lround(length * 1440.0 / 2540.0));
-}
-
 /// The tables of a document. All edges are rounded from the sheet's own measure, so that no error adds up over a page.
 class SheetWriter
 {
 public:
-    SheetWriter(QXmlStreamWriter& xml, const LabelPages& pages) : m_xml(xml), m_pages(pages), m_sheet(pages.Sheet) {}
+    SheetWriter(QXmlStreamWriter& xml, const LabelPages& pages)
+        : m_xml(xml), m_pages(pages), m_sheet(pages.Sheet), m_look(LookOf(pages.Sheet))
+    {}
 
     void WriteAll()
     {
@@ -144,7 +140,7 @@ private:
         }
         m_xml.writeEndElement();
         if (label != nullptr)
-            WriteStory(m_xml, *label, u"Label"_s);
+            WriteStory(m_xml, *label, LabelStyle(FittingSize(*label, m_look), m_look));
         else
             WriteStory(m_xml, Story(), u"LabelEnd"_s);
         m_xml.writeEndElement();
@@ -168,6 +164,7 @@ private:
     QXmlStreamWriter& m_xml;
     const LabelPages& m_pages;
     const LabelSheet& m_sheet;
+    LabelLook m_look;
 };
 
 } // namespace
@@ -175,17 +172,6 @@ private:
 void WriteLabelPages(QXmlStreamWriter& xml, const LabelPages& pages)
 {
     SheetWriter(xml, pages).WriteAll();
-}
-
-LabelLook LookOf(const LabelSheet& sheet)
-{
-    constexpr int lines = 4;
-    constexpr double lineHeight = 1.2;
-    constexpr double pointsPerUnit = 72 / 2540.0;
-    constexpr int smallest = 10, largest = 22;
-    const double points = sheet.Height * pointsPerUnit / (lines * lineHeight);
-    // A third of a centimeter from the edges, less on a narrow label.
-    return {std::clamp(int(points * 2) - 1, smallest, largest), Twips(std::min(300, sheet.Width / 20))};
 }
 
 } // namespace Word

@@ -18,7 +18,7 @@ public:
     [[nodiscard]] QString Text() const;
     /// Puts a text in the place of the stretch; the last mark of a text stays.
     void SetText(const QString& text);
-    /// A field of which a part lies in the stretch becomes bold as a whole.
+    /// A place inside a field stands for its start: a field is bold where its start lies in the stretch.
     void SetBold(bool bold);
     void Delete();
 

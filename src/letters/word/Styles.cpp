@@ -1,6 +1,6 @@
 #include "letters/word/Styles.h"
 
-#include "letters/word/LabelText.h"
+#include "letters/word/LabelLook.h"
 
 namespace Word {
 
@@ -36,6 +36,12 @@ constexpr auto labelStyles = R"(<w:style w:type="paragraph" w:customStyle="1" w:
 <w:rPr><w:sz w:val="2"/><w:szCs w:val="2"/></w:rPr></w:style>
 )";
 
+/// For a label with a long line; %1 is the style's name, %2 and %3 as %2 and %3 above.
+constexpr auto smallerLabelStyle = R"(<w:style w:type="paragraph" w:customStyle="1" w:styleId="%1"><w:name w:val="%1"/>
+<w:basedOn w:val="Label"/><w:semiHidden/><w:pPr><w:spacing w:line="%3" w:lineRule="exact"/></w:pPr>
+<w:rPr><w:sz w:val="%2"/><w:szCs w:val="%2"/></w:rPr></w:style>
+)";
+
 constexpr auto settings = R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
 <w:settings xmlns:w="http://schemas.openxmlformats.org/wordprocessingml/2006/main">
 <w:zoom w:percent="100"/><w:defaultTabStop w:val="720"/><w:characterSpacingControl w:val="doNotCompress"/>
@@ -50,8 +56,12 @@ QByteArray StylesPart(const std::optional<LabelSheet>& labels)
     QByteArray part(stylesStart);
     if (labels) {
         const LabelLook look = LookOf(*labels);
-        const int line = look.HalfPoints * 12; // 1.2 times the size
+        const int line = LineHeight(look.HalfPoints);
         part += QString::fromLatin1(labelStyles).arg(look.Indent).arg(look.HalfPoints).arg(line).toUtf8();
+        for (int size = smallestOnLabel; size < look.HalfPoints; ++size) {
+            const QString style = LabelStyle(size, look);
+            part += QString::fromLatin1(smallerLabelStyle).arg(style).arg(size).arg(LineHeight(size)).toUtf8();
+        }
     }
     return part + "</w:styles>\n";
 }

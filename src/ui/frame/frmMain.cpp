@@ -145,9 +145,8 @@ void frmMain::SSTab1_Click(int previousTab)
 {
     Trap(u"frmMain SSTab1_Click Error #"_s, Icon::Critical, [&] {
         auto* search = Face<SearchFace>::Get();
-        if (previousTab == static_cast<int>(Tab::Contacts) && (search == nullptr || !search->HasCriteriaRows())) {
-            if (search != nullptr)
-                search->optSearch_Click();
+        if (previousTab == static_cast<int>(Tab::Contacts) && search != nullptr && !search->HasCriteriaRows()) {
+            search->optSearch_Click();
             if (auto* letters = Face<LettersFace>::Get())
                 letters->LoadFormLetters();
         }
