@@ -1,15 +1,10 @@
 #pragma once
 
-#include "app/Composition.h"
 #include "letters/FormLetters.h"
 #include "letters/PictureBox.h"
-#include "model/Categories.h"
 #include "model/Contact.h"
-#include "model/LoadContacts.h"
 #include "model/Main.h"
-#include "organise/CategoryTree.h"
-#include "support/FreshDatabase.h"
-#include "support/ScriptedUser.h"
+#include "support/RunningProgram.h"
 #include "support/Windows.h"
 
 #include <QLabel>
@@ -22,7 +17,7 @@
 ///   2 Bob M Ray  7 Pine Rd, Reno, no ZIP extension; no property
 ///   3 Cy Day     the state is Null; property 2, which is not the default one
 ///   Letters      1 Hello, 2 News, 3 Plain
-class Study
+class Study : public RunningProgram
 {
 public:
     /// With the letters, or with an empty library.
@@ -55,38 +50,10 @@ public:
         Start();
     }
 
-    ~Study() { End(); }
-
     static void AddLetter(const QString& name, const QString& text)
     {
         FreshDatabase::Execute(
             QStringLiteral("Insert into FormLetters (FormName,FormText) Values ('%1','%2')").arg(name, text));
-    }
-
-    /// Starts the program and goes to the third tab.
-    void Start()
-    {
-        LoadCategories();
-        m_program = std::make_unique<Composition>();
-        m_program->Tree().FillTree();
-        LoadContacts([](int) {});
-        Main().Show();
-        Main().ShowTab(static_cast<int>(frmMain::Tab::Letters));
-        QTest::qWait(0);
-        static_cast<void>(Database.TakeStatements());
-        Person.Forget();
-    }
-    void End()
-    {
-        Main().Unload();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        m_program.reset();
-    }
-    void StartAnew()
-    {
-        End();
-        Database.StartAnew();
-        Start();
     }
 
     static void Select(const std::vector<Long>& contacts)
@@ -97,7 +64,6 @@ public:
         }
     }
 
-    [[nodiscard]] frmMain& Main() const { return m_program->Main(); }
     [[nodiscard]] FormLetters& Page() const { return Control<FormLetters>(Main(), QStringLiteral("FormLetters")); }
     [[nodiscard]] QListWidget& Forms() const { return Control<QListWidget>(Main(), QStringLiteral("lstForms")); }
     [[nodiscard]] QPlainTextEdit& Letter() const { return Control<QPlainTextEdit>(Main(), QStringLiteral("Letter")); }
@@ -132,9 +98,6 @@ public:
         Letter().insertPlainText(text);
     }
 
-    FreshDatabase Database;
-    ScriptedUser Person;
-
-private:
-    std::unique_ptr<Composition> m_program;
+protected:
+    void Started() override { Main().ShowTab(static_cast<int>(frmMain::Tab::Letters)); }
 };

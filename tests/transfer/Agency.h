@@ -1,17 +1,12 @@
 #pragma once
 
-#include "app/Composition.h"
 #include "core/adodb/Connection.h"
 #include "core/adodb/Recordset.h"
 #include "core/Clock.h"
-#include "model/Categories.h"
 #include "model/Contact.h"
 #include "model/faces.h"
-#include "model/LoadContacts.h"
 #include "model/Main.h"
-#include "organise/CategoryTree.h"
-#include "support/FreshDatabase.h"
-#include "support/ScriptedUser.h"
+#include "support/RunningProgram.h"
 #include "support/Windows.h"
 #include "transfer/CutSections.h"
 #include "transfer/ExportData.h"
@@ -36,7 +31,7 @@ enum Section
 };
 
 /// The started program on a file of its own, with a person who names files.
-class Agency
+class Agency : public RunningProgram
 {
 public:
     enum class File
@@ -63,7 +58,7 @@ public:
         Database.StartAnew();
         Start();
     }
-    ~Agency()
+    ~Agency() override
     {
         CommonDialog::SetSource({});
         End();
@@ -126,37 +121,7 @@ public:
         curContact = ContactAt(id);
         SelectCurContact();
     }
-    [[nodiscard]] frmMain& Main() { return m_program->Main(); }
 
-    void Start()
-    {
-        LoadCategories();
-        m_program = std::make_unique<Composition>();
-        m_program->Tree().FillTree();
-        LoadContacts([](int) {});
-        auto& panels = *Face<AlertPanelsFace>::Get();
-        panels.FillAlertGrid(false);
-        panels.FillAlertGrid(true);
-        Main().Show();
-        QTest::qWait(0);
-        static_cast<void>(Database.TakeStatements());
-        Person.Forget();
-    }
-    void End()
-    {
-        Main().Unload();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        m_program.reset();
-    }
-    void StartAnew()
-    {
-        End();
-        Database.StartAnew();
-        Start();
-    }
-
-    FreshDatabase Database;
-    ScriptedUser Person;
     QString Asked;
 
 private:
@@ -186,8 +151,6 @@ private:
               "Insert into FormLetters (FormName,FormText) values ('Hello','Dear !<FirstName>!')"})
             FreshDatabase::Execute(QString::fromLatin1(statement));
     }
-
-    std::unique_ptr<Composition> m_program;
 };
 
 /// The sections of a transfer file, as texts.
