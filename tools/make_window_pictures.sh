@@ -1,12 +1,16 @@
 #!/usr/bin/env bash
 # Draws each window of the program from a sample: light and dark, at the scales 1 and 2, in its usual and in its smallest size.
 #
-#   tools/make_window_pictures.sh
+#   tools/make_window_pictures.sh              everything, some minutes
+#   tools/make_window_pictures.sh documents    what the documents show: scale 1, usual size
 #
 # All pictures go to build/dev/window-pictures; those of docs/pictures are made anew. Look at them before you commit them.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source packaging/common.sh
+
+what=${1:-all}
+[[ $what == all || $what == documents ]] || die "usage: tools/make_window_pictures.sh [documents]"
 
 # What the documents show.
 in_documents=(splash main main-empty list contact contact-new notes move-contact-chosen move-category ask
@@ -44,11 +48,12 @@ draw() { # SCALE SCHEME FOLDER [--smallest]
 }
 
 for scheme in light dark; do
-    for scale in 1 2; do
-        say "Drawing the windows, $scheme, at scale $scale"
-        draw $scale $scheme scale-$scale
-        draw $scale $scheme scale-$scale-smallest --smallest
-    done
+    say "Drawing the windows, $scheme"
+    draw 1 $scheme scale-1
+    [ "$what" = all ] || continue
+    draw 1 $scheme scale-1-smallest --smallest
+    draw 2 $scheme scale-2
+    draw 2 $scheme scale-2-smallest --smallest
 done
 
 # Small enough for the repository.
