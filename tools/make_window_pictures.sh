@@ -69,7 +69,7 @@ for name in "${in_documents[@]}"; do
     done
 done
 # Documents, as the word processor renders their first page.
-for name in letters-page labels-sheet report-page; do
+for name in letters-page labels-sheet report-page report-properties-page; do
     soffice -env:UserInstallation="file://$PWD/$pictures/office-profile" --headless --convert-to pdf \
         --outdir "$pictures" "$pictures/scale-1/$name.docx" > /dev/null
     pdftoppm -r 72 -png -singlefile "$pictures/$name.pdf" "$pictures/$name"

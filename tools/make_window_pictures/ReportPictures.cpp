@@ -8,15 +8,21 @@
 
 using namespace Qt::StringLiterals;
 
-void TakeReports(Run& run)
+namespace {
+
+/// The next document goes to this name beside the pictures; the script has its page rendered.
+void KeepDocument(Run& run, const QString& name)
 {
-    // The document lies with the pictures; the script has its page rendered.
-    QStandardPaths::setTestModeEnabled(true);
-    const QString document = run.Pictures().Folder().filePath(u"report-page.docx"_s);
-    Word::SetDocumentOpener([&document](const QString& path) {
+    const QString document = run.Pictures().Folder().filePath(name);
+    Word::SetDocumentOpener([document](const QString& path) {
         QFile::remove(document);
         return QFile::copy(path, document);
     });
+}
+
+void ContactReport(Run& run)
+{
+    KeepDocument(run, u"report-page.docx"_s);
     run.Click(u"S2"_s);
     run.OpenList();
     Run::ClickCell(Run::List(), 1, 4);
@@ -31,6 +37,31 @@ void TakeReports(Run& run)
                 Find<QAbstractButton>(form, u"cmdButton_2"_s).click();
                 Key(form, Qt::Key_Escape);
             });
+}
+
+void PropertyReport(Run& run)
+{
+    KeepDocument(run, u"report-properties-page.docx"_s);
+    Run::ClickCell(Run::List(), 3, 4);
+    InModal([] { Run::Trigger(Run::ListWindow(), u"mnuProperties"_s); },
+            [](QWidget& list) {
+                Key(list, Qt::Key_Up, Qt::ShiftModifier);
+                InModal([&list] { Run::Trigger(list, u"mnuWord"_s); },
+                        [](QWidget& form) {
+                            Find<QAbstractButton>(form, u"cmdButton_2"_s).click();
+                            Key(form, Qt::Key_Escape);
+                        });
+                Key(list, Qt::Key_Escape);
+            });
+}
+
+} // namespace
+
+void TakeReports(Run& run)
+{
+    QStandardPaths::setTestModeEnabled(true);
+    ContactReport(run);
+    PropertyReport(run);
     Word::SetDocumentOpener({});
     QStandardPaths::setTestModeEnabled(false);
 }
