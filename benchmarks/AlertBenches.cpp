@@ -9,9 +9,9 @@
 #include "Samples.h"
 #include "ui/frame/frmMain.h"
 
-#include <benchmark/benchmark.h>
 #include <QApplication>
 #include <QDateTime>
+#include <benchmark/benchmark.h>
 
 using namespace Qt::StringLiterals;
 

@@ -1,8 +1,8 @@
 #include "BareTransfer.h"
 
-#include <cstdio>
 #include <QFile>
 #include <QXmlStreamReader>
+#include <cstdio>
 #include <sqlcipher/sqlite3.h>
 
 using namespace Qt::StringLiterals;

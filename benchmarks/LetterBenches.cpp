@@ -3,10 +3,10 @@
 #include "Figures.h"
 #include "Letters.h"
 
-#include <benchmark/benchmark.h>
 #include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <benchmark/benchmark.h>
 
 using namespace Qt::StringLiterals;
 

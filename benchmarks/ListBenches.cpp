@@ -9,10 +9,10 @@
 #include "Samples.h"
 #include "ui/widgets/Grid.h"
 
+#include <QCoreApplication>
 #include <benchmark/benchmark.h>
 #include <functional>
 #include <optional>
-#include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 

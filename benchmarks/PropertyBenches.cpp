@@ -10,10 +10,10 @@
 #include "organise/Rolodex.h"
 #include "ui/widgets/Grid.h"
 
-#include <benchmark/benchmark.h>
 #include <QAction>
 #include <QCoreApplication>
 #include <QListWidget>
+#include <benchmark/benchmark.h>
 #include <vector>
 
 using namespace Qt::StringLiterals;

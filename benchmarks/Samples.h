@@ -1,8 +1,8 @@
 #pragma once
 
-#include <memory>
 #include <QString>
 #include <QTemporaryDir>
+#include <memory>
 
 /// The program folder of the sample agency with so many contacts, as ./bench made it. Nothing changes
 /// its contacts.

@@ -14,15 +14,15 @@
 #include "ui/widgets/Grid.h"
 #include "ui/widgets/HoverButton.h"
 
+#include <QCoreApplication>
+#include <QFontMetrics>
+#include <QRadioButton>
+#include <QTemporaryDir>
 #include <benchmark/benchmark.h>
 #include <functional>
 #include <malloc.h>
 #include <map>
 #include <memory>
-#include <QCoreApplication>
-#include <QFontMetrics>
-#include <QRadioButton>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 

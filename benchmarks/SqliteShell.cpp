@@ -2,9 +2,9 @@
 
 #include "BareStore.h"
 
-#include <algorithm>
 #include <QFile>
 #include <QProcess>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 

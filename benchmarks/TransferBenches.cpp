@@ -12,9 +12,9 @@
 #include "transfer/ImportData.h"
 #include "ui/widgets/CommonDialog.h"
 
+#include <QFile>
 #include <benchmark/benchmark.h>
 #include <ctime>
-#include <QFile>
 
 using namespace Qt::StringLiterals;
 

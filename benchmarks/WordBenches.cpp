@@ -2,10 +2,10 @@
 #include "Figures.h"
 #include "letters/word/Application.h"
 
-#include <benchmark/benchmark.h>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <benchmark/benchmark.h>
 
 using namespace Qt::StringLiterals;
 

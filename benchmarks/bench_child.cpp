@@ -15,17 +15,17 @@
 #include "Program.h"
 #include "Samples.h"
 
-#include <chrono>
-#include <cstdio>
-#include <cstdlib>
-#include <ctime>
-#include <fstream>
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QWidget>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <fstream>
 #include <string>
 
 using namespace Qt::StringLiterals;

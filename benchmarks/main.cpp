@@ -7,8 +7,8 @@
 #include "Benches.h"
 #include "Figures.h"
 
-#include <algorithm>
 #include <QApplication>
+#include <algorithm>
 #include <string_view>
 
 int main(int argc, char** argv)

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <initializer_list>
-#include <memory>
 #include <QByteArray>
 #include <QString>
+#include <initializer_list>
+#include <memory>
 #include <variant>
 
 struct sqlite3;

@@ -7,15 +7,15 @@
 
 #include "Store.h"
 
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
 #include <QTemporaryFile>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
 #include <stdexcept>
 #include <unistd.h>
 

@@ -23,16 +23,16 @@
 //
 // The maker with the most US Letter sheets stands first, each maker's labels in the order of the list.
 
-#include <algorithm>
-#include <array>
-#include <cstdio>
-#include <functional>
 #include <QByteArray>
 #include <QFile>
 #include <QHash>
 #include <QSet>
 #include <QStringList>
 #include <QXmlStreamReader>
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <functional>
 #include <stdexcept>
 #include <vector>
 

@@ -5,15 +5,15 @@
 // Two impressions (houses on a hill, a beach) and four hazes. The same pictures come out every time. All are very
 // light: black text, pure red and the fixed green must read on every spot of them.
 
-#include <algorithm>
-#include <cmath>
-#include <cstdio>
-#include <numbers>
 #include <QCoreApplication>
 #include <QDir>
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <numbers>
 #include <random>
 #include <stdexcept>
 

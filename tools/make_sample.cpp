@@ -7,9 +7,9 @@
 #include "sample/Agency.h"
 #include "Store.h"
 
-#include <cstdio>
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <cstdio>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;

@@ -14,7 +14,8 @@ class Rolodex;
 ///   AlertPanels   -> first tab, mnuAlertGrid
 ///   SearchPage    -> second tab, mnuFoundContacts, mnuFoundProperties and their popups
 ///   FormLetters   -> third tab
-///   frmList, frmContact, frmNotes, frmProperty, frmPropertyList, frmAlerts, ManageAlerts, SetNewAlert_Click  -> openers
+///   frmList, frmContact, frmNotes, frmProperty, frmPropertyList, frmAlerts, ManageAlerts, SetNewAlert_Click  ->
+///   openers
 ///
 /// What is not plugged in stands disabled in the menus.
 class Composition

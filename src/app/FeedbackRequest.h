@@ -1,12 +1,12 @@
 #pragma once
 
-#include <functional>
-#include <memory>
 #include <QNetworkAccessManager>
 #include <QObject>
 #include <QString>
 #include <QTimer>
 #include <QUrl>
+#include <functional>
+#include <memory>
 
 class QNetworkReply;
 

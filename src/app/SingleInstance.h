@@ -3,7 +3,8 @@
 #include <QLockFile>
 #include <memory>
 
-/// Whether this program runs already on the same folder. Each folder has its own lock, so that a sample runs beside the real one.
+/// Whether this program runs already on the same folder. Each folder has its own lock, so that a sample runs beside the
+/// real one.
 class SingleInstance
 {
 public:

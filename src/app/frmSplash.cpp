@@ -11,12 +11,12 @@
 #include "ui/widgets/Pictures.h"
 #include "ui/widgets/UserWindows.h"
 
-#include <cstdlib>
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QProgressBar>
 #include <QVBoxLayout>
+#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 

@@ -10,8 +10,8 @@ class QElapsedTimer;
 class QProgressBar;
 class UserWindows;
 
-/// The first window. In its first activation it brings the program up; where that fails, it stays, and closing it ends the
-/// program.
+/// The first window. In its first activation it brings the program up; where that fails, it stays, and closing it ends
+/// the program.
 class frmSplash : public Form
 {
     Q_OBJECT

@@ -4,8 +4,8 @@
 
 #include <QString>
 
-// Conversions between text and numbers. Each takes the whole text or raises: 13 where it is no number, 6 where the number
-// does not fit. Whole numbers round half to even.
+// Conversions between text and numbers. Each takes the whole text or raises: 13 where it is no number, 6 where the
+// number does not fit. Whole numbers round half to even.
 
 [[nodiscard]] bool IsNumeric(QStringView text);
 
@@ -18,7 +18,8 @@
 [[nodiscard]] Currency CCur(QStringView text);
 [[nodiscard]] Currency CCur(double value);
 
-/// The number at the start of a text; 0 where there is none. Blanks, tabs and line feeds are skipped anywhere. Never fails.
+/// The number at the start of a text; 0 where there is none. Blanks, tabs and line feeds are skipped anywhere. Never
+/// fails.
 [[nodiscard]] double Val(QStringView text);
 
 /// The default text of a value: no thousands separators, "." as decimal point, no trailing zeros.

@@ -2,9 +2,9 @@
 
 #include "core/Types.h"
 
-#include <optional>
 #include <QDateTime>
 #include <QString>
+#include <optional>
 
 /// The date that a text names by the rules of the United States locale, or nothing.
 [[nodiscard]] std::optional<Date> ParseDate(QStringView text);

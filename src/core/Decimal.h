@@ -2,10 +2,10 @@
 
 #include "core/Types.h"
 
-#include <algorithm>
-#include <optional>
 #include <QString>
 #include <QVarLengthArray>
+#include <algorithm>
+#include <optional>
 
 /// A number by its decimal digits, as a person would write it down. Text, Single, Double and Currency all become one
 /// before they are rounded, so that 0.125 and 2.675 round as they read and not as their binary form happens to lie.

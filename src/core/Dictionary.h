@@ -2,10 +2,10 @@
 
 #include "core/RunTimeError.h"
 
+#include <QVarLengthArray>
 #include <algorithm>
 #include <bit>
 #include <memory>
-#include <QVarLengthArray>
 #include <unordered_map>
 #include <vector>
 

@@ -23,8 +23,8 @@ inline constexpr int Escape = 27;
 inline constexpr int Delete = 46;
 } // namespace Key
 
-/// Lays the mask of a phone number over the digits of a field, the caret at the end. Backspace changes nothing; an eleventh
-/// digit undoes the mask, which is meant.
+/// Lays the mask of a phone number over the digits of a field, the caret at the end. Backspace changes nothing; an
+/// eleventh digit undoes the mask, which is meant.
 [[nodiscard]] FieldText FormatPhone(int keyCode, const FieldText& field);
 
 /// Tidies a field toward mm/dd/yyyy while a date is typed from left to right.

@@ -2,10 +2,10 @@
 
 #include "core/RunTimeError.h"
 
-#include <cerrno>
-#include <fcntl.h>
 #include <QFileInfo>
 #include <QScopeGuard>
+#include <cerrno>
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace {

@@ -41,9 +41,11 @@ constexpr std::array entries{
     Entry{429, "ActiveX component can't create object"_L1},
     Entry{438, "Object doesn't support this property or method"_L1},
     Entry{457, "This key is already associated with an element of this collection"_L1},
-    Entry{3001, "Arguments are of the wrong type, are out of acceptable range, or are in conflict with one another."_L1},
-    Entry{3021, "Either BOF or EOF is True, or the current record has been deleted. Requested operation requires a current "
-                "record."_L1},
+    Entry{3001,
+          "Arguments are of the wrong type, are out of acceptable range, or are in conflict with one another."_L1},
+    Entry{3021,
+          "Either BOF or EOF is True, or the current record has been deleted. Requested operation requires a current "
+          "record."_L1},
     Entry{3219, "Operation is not allowed in this context."_L1},
     Entry{3251, "Current Recordset does not support updating. This may be a limitation of the provider, or of the "
                 "selected locktype."_L1},
@@ -65,8 +67,7 @@ RunTimeError::RunTimeError(int number) : RunTimeError(number, StandardDescriptio
 
 RunTimeError::RunTimeError(int number, QString description)
     : m_number(number), m_description(std::move(description)), m_utf8(m_description.toUtf8())
-{
-}
+{}
 
 QString RunTimeError::StandardDescription(int number)
 {

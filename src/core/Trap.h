@@ -9,8 +9,8 @@
 /// Shows the error report: the description as text; the procedure's tag, followed at once by the number, as title.
 void ReportError(const RunTimeError& error, const QString& tag, Icon icon);
 
-/// Runs the body of a procedure under its error trap. A run-time error ends the body where it was, is reported once under
-/// `tag`, and the procedure gives its default (0, "", false or nothing). What the body had done stays done.
+/// Runs the body of a procedure under its error trap. A run-time error ends the body where it was, is reported once
+/// under `tag`, and the procedure gives its default (0, "", false or nothing). What the body had done stays done.
 template <typename Body>
 auto Trap(const QString& tag, Icon icon, Body&& body) -> std::invoke_result_t<Body>
 {

@@ -2,8 +2,8 @@
 
 #include "model/PropertyFields.h"
 
-#include <optional>
 #include <QLatin1StringView>
+#include <optional>
 #include <span>
 
 class Grid;

@@ -5,7 +5,6 @@
 #include "ui/widgets/Grid.h"
 #include "ui/widgets/Theme.h"
 
-#include <limits>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -15,6 +14,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QVBoxLayout>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 

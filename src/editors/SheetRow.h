@@ -2,8 +2,8 @@
 
 #include "core/FieldRules.h"
 
-#include <functional>
 #include <QString>
+#include <functional>
 
 class SheetEditor;
 

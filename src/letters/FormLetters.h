@@ -3,9 +3,9 @@
 #include "letters/LetterLibrary.h"
 #include "model/faces.h"
 
-#include <memory>
 #include <QHash>
 #include <QWidget>
+#include <memory>
 
 class HoverButtonArray;
 class PictureBox;

@@ -7,9 +7,9 @@
 #include "model/Contact.h"
 #include "model/Lists.h"
 
-#include <array>
 #include <QFile>
 #include <QFileInfo>
+#include <array>
 #include <utility>
 
 using namespace Qt::StringLiterals;

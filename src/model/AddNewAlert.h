@@ -1,7 +1,7 @@
 #pragma once
 
-#include <memory>
 #include <QString>
+#include <memory>
 
 class Alert;
 

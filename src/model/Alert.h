@@ -16,8 +16,8 @@ public:
     Date AlertDate;
     QString AlertNote;
 
-    /// Writes this alert as a new row and gives its ID. Of two alerts of one contact on one date it is the first one's, which
-    /// is meant.
+    /// Writes this alert as a new row and gives its ID. Of two alerts of one contact on one date it is the first one's,
+    /// which is meant.
     [[nodiscard]] Long AddToDB() const;
 
     /// Writes date and note to the row of the current alert (curAlertIndex), whichever object it is called on.

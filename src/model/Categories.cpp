@@ -101,9 +101,8 @@ qsizetype LocateSub(Long id, std::optional<Long> categoryID)
 qsizetype ExistSub(const QString& name, std::optional<Long> categoryID)
 {
     const QString wanted = NameKey(name);
-    return PositionIn(CategoryAt(categoryID.value_or(curCategoryID)), [&](const std::shared_ptr<Category>& sub) {
-        return NameKey(sub->Description) == wanted;
-    });
+    return PositionIn(CategoryAt(categoryID.value_or(curCategoryID)),
+                      [&](const std::shared_ptr<Category>& sub) { return NameKey(sub->Description) == wanted; });
 }
 
 Long GetKey(const QString& nodeKey)

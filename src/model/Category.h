@@ -7,7 +7,8 @@
 #include <optional>
 #include <vector>
 
-/// One node of the contact tree: a category (ParentID 0), or a subcategory under one. Contacts lie in subcategories only.
+/// One node of the contact tree: a category (ParentID 0), or a subcategory under one. Contacts lie in subcategories
+/// only.
 class Category
 {
 public:
@@ -24,8 +25,8 @@ public:
     /// The subcategory at a position from 1. Raises 91 without a list, 9 outside of it.
     [[nodiscard]] const std::shared_ptr<Category>& Sub(qsizetype position) const;
 
-    /// Writes this category as a new row and gives its ID. Gives 0 where a category of the same name exists, and says so when
-    /// `showMessage` is set.
+    /// Writes this category as a new row and gives its ID. Gives 0 where a category of the same name exists, and says
+    /// so when `showMessage` is set.
     [[nodiscard]] Long CreateACategory(bool showMessage) const;
 
     /// Renames, in memory and in the table, where the name differs.

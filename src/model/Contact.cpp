@@ -80,22 +80,30 @@ Long Contact::AddToDB(std::optional<Long> subCategory) const
 {
     return Trap(u"Class Contact AddToDB Error #"_s, Icon::Information, [&] {
         const Long sub = subCategory ? *subCategory : SelectedSub();
+        const QStringList names{FixQuotes(FirstName),         FixQuotes(LastName),   MI,
+                                FixQuotes(FormatName(*this)), FixQuotes(Salutation), FixQuotes(MailAddr1),
+                                FixQuotes(MailAddr2),         FixQuotes(MailCity)};
+        const QStringList rest{MailZip,
+                               MailZip4,
+                               FixQuotes(Company),
+                               WorkPhone,
+                               Ext,
+                               HomePhone,
+                               Cell,
+                               Fax,
+                               Email,
+                               FixQuotes(ReferredBy),
+                               FixQuotes(Notes),
+                               FixQuotes(Spouse)};
         const QString between = u"','"_s;
-        const QString names = QStringList{FixQuotes(FirstName),  FixQuotes(LastName),  MI,
-                                          FixQuotes(FormatName(*this)), FixQuotes(Salutation), FixQuotes(MailAddr1),
-                                          FixQuotes(MailAddr2),  FixQuotes(MailCity)}
-                                  .join(between);
-        const QString rest = QStringList{MailZip,   MailZip4, FixQuotes(Company),    WorkPhone,        Ext,
-                                         HomePhone, Cell,     Fax,                   Email,            FixQuotes(ReferredBy),
-                                         FixQuotes(Notes), FixQuotes(Spouse)}
-                                 .join(between);
-        gConn.Execute(u"Insert into Contacts (CategoryID,SubCategoryID,FirstName,LastName,MI,FormattedName,Salutation,"
-                      "MailAddr1,MailAddr2,MailCity,MailState,MailZip,MailZip4,Company,WorkPhone,Ext,HomePhone,Cell,Fax,"
-                      "Email,ReferredBy,Notes,Spouse)  Values ("_s +
-                      CStr(CategoryID) + u","_s + CStr(sub) + u",'"_s + names + u"',"_s + CStr(MailState) + u",'"_s + rest +
-                      u"')"_s);
-        // MI and MailAddr1 go in as they are, unlike in the statement above: an apostrophe in the address leaves the row
-        // written and its ID unknown, which is meant.
+        gConn.Execute(
+            u"Insert into Contacts (CategoryID,SubCategoryID,FirstName,LastName,MI,FormattedName,Salutation,"
+            "MailAddr1,MailAddr2,MailCity,MailState,MailZip,MailZip4,Company,WorkPhone,Ext,HomePhone,Cell,Fax,"
+            "Email,ReferredBy,Notes,Spouse)  Values ("_s +
+            CStr(CategoryID) + u","_s + CStr(sub) + u",'"_s + names.join(between) + u"',"_s + CStr(MailState) +
+            u",'"_s + rest.join(between) + u"')"_s);
+        // MI and MailAddr1 go in as they are, unlike in the statement above: an apostrophe in the address leaves the
+        // row written and its ID unknown, which is meant.
         return ReadBackID(u"Select ID from Contacts Where SubCategoryID="_s + CStr(sub) + u" and FirstName='"_s +
                           FixQuotes(FirstName) + u"' and MI='"_s + MI + u"' and LastName='"_s + FixQuotes(LastName) +
                           u"' and Mailaddr1='"_s + MailAddr1 + u"'"_s);
@@ -105,17 +113,17 @@ Long Contact::AddToDB(std::optional<Long> subCategory) const
 void Contact::UpdateDB(Long id) const
 {
     Trap(u"Class Contact UpdtateDB Error #"_s, Icon::Information, [&] {
-        gConn.Execute(
-            u"Update Contacts set CategoryID="_s + CStr(CategoryID) + u",SubCategoryID="_s + CStr(subCategoryID) +
-            u",FirstName='"_s + FixQuotes(FirstName) + u"',LastName='"_s + FixQuotes(LastName) + u"',MI='"_s + MI +
-            u"',FormattedName='"_s + FixQuotes(FormatName(*this)) + u"',Salutation='"_s + FixQuotes(Salutation) +
-            u"',MailAddr1='"_s + FixQuotes(MailAddr1) + u"',MailAddr2='"_s + FixQuotes(MailAddr2) + u"',MailCity='"_s +
-            FixQuotes(MailCity) + u"',MailState="_s + FixQuotes(CStr(MailState)) + u",MailZip='"_s + MailZip +
-            u"',MailZip4='"_s + MailZip4 + u"',Company='"_s + FixQuotes(Company) + u"',WorkPhone='"_s + WorkPhone +
-            u"',Ext='"_s + Ext + u"',HomePhone='"_s + HomePhone + u"',Cell='"_s + Cell + u"',Fax='"_s + Fax +
-            u"',Email='"_s + FixQuotes(Email) + u"',ReferredBy='"_s + FixQuotes(ReferredBy) + u"',Notes='"_s +
-            FixQuotes(Notes) + u"',Spouse='"_s + FixQuotes(Spouse) + u"', DefaultProperty="_s + CStr(DefaultProperty) +
-            u" Where ID="_s + CStr(id));
+        gConn.Execute(u"Update Contacts set CategoryID="_s + CStr(CategoryID) + u",SubCategoryID="_s +
+                      CStr(subCategoryID) + u",FirstName='"_s + FixQuotes(FirstName) + u"',LastName='"_s +
+                      FixQuotes(LastName) + u"',MI='"_s + MI + u"',FormattedName='"_s + FixQuotes(FormatName(*this)) +
+                      u"',Salutation='"_s + FixQuotes(Salutation) + u"',MailAddr1='"_s + FixQuotes(MailAddr1) +
+                      u"',MailAddr2='"_s + FixQuotes(MailAddr2) + u"',MailCity='"_s + FixQuotes(MailCity) +
+                      u"',MailState="_s + FixQuotes(CStr(MailState)) + u",MailZip='"_s + MailZip + u"',MailZip4='"_s +
+                      MailZip4 + u"',Company='"_s + FixQuotes(Company) + u"',WorkPhone='"_s + WorkPhone + u"',Ext='"_s +
+                      Ext + u"',HomePhone='"_s + HomePhone + u"',Cell='"_s + Cell + u"',Fax='"_s + Fax +
+                      u"',Email='"_s + FixQuotes(Email) + u"',ReferredBy='"_s + FixQuotes(ReferredBy) + u"',Notes='"_s +
+                      FixQuotes(Notes) + u"',Spouse='"_s + FixQuotes(Spouse) + u"', DefaultProperty="_s +
+                      CStr(DefaultProperty) + u" Where ID="_s + CStr(id));
     });
 }
 

@@ -63,8 +63,8 @@ public:
     /// Asks about the highlighted rows of the contact list, and deletes their contacts.
     static void DeleteFromDB();
 
-    /// The key of the first contact of a subcategory with this name, without regard to case and outer blanks; 0 where there is
-    /// none. Every contact may be asked.
+    /// The key of the first contact of a subcategory with this name, without regard to case and outer blanks; 0 where
+    /// there is none. Every contact may be asked.
     [[nodiscard]] static Long LocateContact(const QString& firstName, const QString& mi, const QString& lastName,
                                             Long subCategory);
 };

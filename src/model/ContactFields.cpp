@@ -5,11 +5,13 @@
 namespace {
 
 /// The text members in the order of ContactField; null for the list field.
+// clang-format off
 constexpr std::array<QString Contact::*, ContactFieldCount> members{
-    &Contact::FirstName, &Contact::MI,      &Contact::LastName,   &Contact::MailAddr1, &Contact::MailAddr2,
-    &Contact::MailCity,  nullptr,           &Contact::MailZip,    &Contact::MailZip4,  &Contact::Salutation,
-    &Contact::Spouse,    &Contact::ReferredBy, &Contact::Company, &Contact::Email,     &Contact::HomePhone,
-    &Contact::WorkPhone, &Contact::Ext,     &Contact::Cell,       &Contact::Fax};
+    &Contact::FirstName, &Contact::MI, &Contact::LastName,
+    &Contact::MailAddr1, &Contact::MailAddr2, &Contact::MailCity, nullptr, &Contact::MailZip, &Contact::MailZip4,
+    &Contact::Salutation, &Contact::Spouse, &Contact::ReferredBy, &Contact::Company, &Contact::Email,
+    &Contact::HomePhone, &Contact::WorkPhone, &Contact::Ext, &Contact::Cell, &Contact::Fax};
+// clang-format on
 
 QString Contact::*MemberOf(ContactField field)
 {

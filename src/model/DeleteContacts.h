@@ -10,6 +10,6 @@ enum class DeleteMode
     Current           ///< curContact
 };
 
-/// Deletes contacts with their properties and alerts, from memory, from the file and from every view, after one question.
-/// All deleting of contacts by the person goes through here.
+/// Deletes contacts with their properties and alerts, from memory, from the file and from every view, after one
+/// question. All deleting of contacts by the person goes through here.
 void DeleteContacts(DeleteMode mode);

@@ -5,7 +5,8 @@
 #include <QString>
 #include <QStringList>
 
-// The fixed lists. A record stores the position of an entry, from 0, so the order of the entries is data and never changes.
+// The fixed lists. A record stores the position of an entry, from 0, so the order of the entries is data and never
+// changes.
 
 /// The numbers by which GetIndex knows the lists.
 namespace ListField {

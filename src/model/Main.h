@@ -50,7 +50,8 @@ inline constexpr Long Modify = 4;
 } // namespace AlertMode
 extern Long gAlertMode;
 
-/// The header of the column that was clicked last in a list window; the editors start on the control whose tag equals it.
+/// The header of the column that was clicked last in a list window; the editors start on the control whose tag equals
+/// it.
 extern QString gFocusField;
 
 extern std::shared_ptr<Contact> curContact;

@@ -2,8 +2,8 @@
 
 #include <functional>
 
-/// The windows that one feature opens for another. The composition fills in what is there; an entry that is empty belongs to
-/// a window that this program does not have, and what would open it stands disabled.
+/// The windows that one feature opens for another. The composition fills in what is there; an entry that is empty
+/// belongs to a window that this program does not have, and what would open it stands disabled.
 struct Openers
 {
     /// frmContact, modal, on gEditMode and curContact.

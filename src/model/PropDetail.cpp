@@ -88,19 +88,20 @@ void PropDetail::LoadFromDB(Recordset& row)
 Long PropDetail::SaveToDB() const
 {
     return Trap(u"Class PropDetail SaveToDB Error #"_s, Icon::Information, [&] {
-        gConn.Execute(u"Insert Into PropDetail (Addr1,Addr2,City,State,Zip,Zip4,ContactID,MLS,Subdivision,PropType,"
-                      "Construction,SqFt,Roof,Parking,Rooms,Baths,Floor,Pool,MaintFee,AssocFee,Waterfront,Floodzone,Rented,"
-                      "RentalBasis,RentalAmount,LeaseExpires,Elevator,PetsAllowed,ListingDate,AskingPrice,ExpDate,"
-                      "ClosingDate,SoldDate,SoldPrice) "_s +
-                      u"Values ('"_s + Addr1 + u"','"_s + Addr2 + u"','"_s + City + u"',"_s + CStr(State) + u",'"_s + Zip +
-                      u"','"_s + Zip4 + u"',"_s + CStr(ContactID) + u",'"_s + MLS + u"','"_s + Subdivision + u"',"_s +
-                      CStr(PropType) + u","_s + CStr(Construction) + u","_s + CStr(SqFt) + u","_s + CStr(Roof) + u","_s +
-                      CStr(Parking) + u","_s + CStr(Rooms) + u","_s + CStr(Baths) + u","_s + CStr(Floor) + u","_s +
-                      CStr(Pool) + u","_s + CStr(MaintFee) + u","_s + CStr(AssocFee) + u",'"_s + FlagCode(Waterfront) +
-                      u"','"_s + FlagCode(FloodZone) + u"','"_s + FlagCode(Rented) + u"',"_s + CStr(RentalBasis) + u","_s +
-                      CStr(RentalAmount) + u",'"_s + LeaseExpires + u"','"_s + FlagCode(Elevator) + u"','"_s +
-                      FlagCode(PetsAllowed) + u"','"_s + ListingDate + u"',"_s + CStr(AskingPrice) + u",'"_s + ExpDate +
-                      u"','"_s + ClosingDate + u"','"_s + SoldDate + u"',"_s + CStr(SoldPrice) + u")"_s);
+        gConn.Execute(
+            u"Insert Into PropDetail (Addr1,Addr2,City,State,Zip,Zip4,ContactID,MLS,Subdivision,PropType,"
+            "Construction,SqFt,Roof,Parking,Rooms,Baths,Floor,Pool,MaintFee,AssocFee,Waterfront,Floodzone,Rented,"
+            "RentalBasis,RentalAmount,LeaseExpires,Elevator,PetsAllowed,ListingDate,AskingPrice,ExpDate,"
+            "ClosingDate,SoldDate,SoldPrice) "_s +
+            u"Values ('"_s + Addr1 + u"','"_s + Addr2 + u"','"_s + City + u"',"_s + CStr(State) + u",'"_s + Zip +
+            u"','"_s + Zip4 + u"',"_s + CStr(ContactID) + u",'"_s + MLS + u"','"_s + Subdivision + u"',"_s +
+            CStr(PropType) + u","_s + CStr(Construction) + u","_s + CStr(SqFt) + u","_s + CStr(Roof) + u","_s +
+            CStr(Parking) + u","_s + CStr(Rooms) + u","_s + CStr(Baths) + u","_s + CStr(Floor) + u","_s + CStr(Pool) +
+            u","_s + CStr(MaintFee) + u","_s + CStr(AssocFee) + u",'"_s + FlagCode(Waterfront) + u"','"_s +
+            FlagCode(FloodZone) + u"','"_s + FlagCode(Rented) + u"',"_s + CStr(RentalBasis) + u","_s +
+            CStr(RentalAmount) + u",'"_s + LeaseExpires + u"','"_s + FlagCode(Elevator) + u"','"_s +
+            FlagCode(PetsAllowed) + u"','"_s + ListingDate + u"',"_s + CStr(AskingPrice) + u",'"_s + ExpDate +
+            u"','"_s + ClosingDate + u"','"_s + SoldDate + u"',"_s + CStr(SoldPrice) + u")"_s);
         if (!curContact)
             throw RunTimeError(ErrorNumber::ObjectNotSet);
         return ReadBackID(u"Select ID from PropDetail Where Addr1='"_s + Addr1 + u"' And Addr2='"_s + Addr2 +
@@ -111,19 +112,20 @@ Long PropDetail::SaveToDB() const
 bool PropDetail::UpdateDB() const
 {
     return Trap(u"Class PropDetail UpdateDB Error #"_s, Icon::Information, [&] {
-        gConn.Execute(
-            u"Update PropDetail set Addr1='"_s + Addr1 + u"',Addr2='"_s + Addr2 + u"', City='"_s + City + u"',State='"_s +
-            CStr(State) + u"',Zip='"_s + Zip + u"', zip4='"_s + Zip4 + u"',contactid="_s + CStr(ContactID) + u",MLS='"_s +
-            MLS + u"', Subdivision='"_s + Subdivision + u"',PropType="_s + CStr(PropType) + u",Construction="_s +
-            CStr(Construction) + u", SqFt='"_s + CStr(SqFt) + u"',Roof="_s + CStr(Roof) + u", Parking="_s + CStr(Parking) +
-            u", Rooms='"_s + CStr(Rooms) + u"',Baths='"_s + CStr(Baths) + u"',Floor="_s + CStr(Floor) + u", Pool="_s +
-            CStr(Pool) + u",MaintFee="_s + CStr(MaintFee) + u",AssocFee="_s + CStr(AssocFee) + u", Waterfront="_s +
-            GuardedFlagCode(Waterfront) + u",Floodzone="_s + GuardedFlagCode(FloodZone) + u",Rented="_s +
-            GuardedFlagCode(Rented) + u",RentalBasis="_s + CStr(RentalBasis) + u",RentalAmount="_s + CStr(RentalAmount) +
-            u",LeaseExpires='"_s + LeaseExpires + u"'"_s + u",Elevator="_s + GuardedFlagCode(Elevator) +
-            u", PetsAllowed="_s + GuardedFlagCode(PetsAllowed) + u",ListingDate='"_s + ListingDate + u"',AskingPrice="_s +
-            CStr(AskingPrice) + u", ExpDate='"_s + ExpDate + u"',ClosingDate='"_s + ClosingDate + u"',SoldDate='"_s +
-            SoldDate + u"', SoldPrice="_s + CStr(SoldPrice) + u" Where ID="_s + CStr(RecID));
+        gConn.Execute(u"Update PropDetail set Addr1='"_s + Addr1 + u"',Addr2='"_s + Addr2 + u"', City='"_s + City +
+                      u"',State='"_s + CStr(State) + u"',Zip='"_s + Zip + u"', zip4='"_s + Zip4 + u"',contactid="_s +
+                      CStr(ContactID) + u",MLS='"_s + MLS + u"', Subdivision='"_s + Subdivision + u"',PropType="_s +
+                      CStr(PropType) + u",Construction="_s + CStr(Construction) + u", SqFt='"_s + CStr(SqFt) +
+                      u"',Roof="_s + CStr(Roof) + u", Parking="_s + CStr(Parking) + u", Rooms='"_s + CStr(Rooms) +
+                      u"',Baths='"_s + CStr(Baths) + u"',Floor="_s + CStr(Floor) + u", Pool="_s + CStr(Pool) +
+                      u",MaintFee="_s + CStr(MaintFee) + u",AssocFee="_s + CStr(AssocFee) + u", Waterfront="_s +
+                      GuardedFlagCode(Waterfront) + u",Floodzone="_s + GuardedFlagCode(FloodZone) + u",Rented="_s +
+                      GuardedFlagCode(Rented) + u",RentalBasis="_s + CStr(RentalBasis) + u",RentalAmount="_s +
+                      CStr(RentalAmount) + u",LeaseExpires='"_s + LeaseExpires + u"'"_s + u",Elevator="_s +
+                      GuardedFlagCode(Elevator) + u", PetsAllowed="_s + GuardedFlagCode(PetsAllowed) +
+                      u",ListingDate='"_s + ListingDate + u"',AskingPrice="_s + CStr(AskingPrice) + u", ExpDate='"_s +
+                      ExpDate + u"',ClosingDate='"_s + ClosingDate + u"',SoldDate='"_s + SoldDate + u"', SoldPrice="_s +
+                      CStr(SoldPrice) + u" Where ID="_s + CStr(RecID));
         return true;
     });
 }

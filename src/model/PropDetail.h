@@ -8,8 +8,8 @@
 class Contact;
 class Recordset;
 
-/// One real-estate property of a contact. Codes are positions in the fixed lists; flags are "Yes", "No" or ""; dates stay the
-/// texts that were typed.
+/// One real-estate property of a contact. Codes are positions in the fixed lists; flags are "Yes", "No" or ""; dates
+/// stay the texts that were typed.
 class PropDetail
 {
 public:
@@ -56,8 +56,8 @@ public:
     /// Takes every field from the current row.
     void LoadFromDB(Recordset& row);
 
-    /// Writes this property as a new row and gives its ID, read back under curContact, who must be the owner. Gives 0 after a
-    /// report.
+    /// Writes this property as a new row and gives its ID, read back under curContact, who must be the owner. Gives 0
+    /// after a report.
     [[nodiscard]] Long SaveToDB() const;
     /// False after a report.
     bool UpdateDB() const;

@@ -2,8 +2,8 @@
 
 #include "core/Types.h"
 
-#include <list>
 #include <QString>
+#include <list>
 #include <unordered_map>
 #include <vector>
 

@@ -54,13 +54,14 @@ void WriteColumn(QLatin1StringView column, const QString& text)
 
 void InsertFirstRow()
 {
-    gConn.Execute(u"Insert into Settings (LabelProduct,LabelNumber,DefaultPicture,DefaultPropPicture,ClientName) values "
-                  "(0,'','"_s +
-                  ImageFile(u"Impressionist1.jpg"_s) + u"','"_s + ImageFile(u"Impressionist2.jpg"_s) + u"','')"_s);
+    gConn.Execute(
+        u"Insert into Settings (LabelProduct,LabelNumber,DefaultPicture,DefaultPropPicture,ClientName) values "
+        "(0,'','"_s +
+        ImageFile(u"Impressionist1.jpg"_s) + u"','"_s + ImageFile(u"Impressionist2.jpg"_s) + u"','')"_s);
 }
 
-/// A Null becomes the picture of the contact list for either window, which is meant. The path of a file that is not there is
-/// reported, once, and the column cleared.
+/// A Null becomes the picture of the contact list for either window, which is meant. The path of a file that is not
+/// there is reported, once, and the column cleared.
 QString LoadPicture(Recordset& row, PictureOf window)
 {
     const PictureColumn& column = ColumnOf(window);

@@ -23,7 +23,8 @@ enum class PictureOf
     PropertyList
 };
 
-/// Reads the row into gSettings; writes the first one where there is none. A picture that has gone is reported and forgotten.
+/// Reads the row into gSettings; writes the first one where there is none. A picture that has gone is reported and
+/// forgotten.
 void LoadSettings();
 
 /// Writes label and clock choices.

@@ -9,8 +9,9 @@
 class Alert;
 class Contact;
 
-// What each window shows to the others: the procedures that others call, under their own names, without a widget in sight.
-// The owner registers its face while it is loaded; a caller asks for the face and gets null when the window is not loaded.
+// What each window shows to the others: the procedures that others call, under their own names, without a widget in
+// sight. The owner registers its face while it is loaded; a caller asks for the face and gets null when the window is
+// not loaded.
 
 template <typename Interface>
 class Face
@@ -184,7 +185,8 @@ public:
     virtual ~SearchFace() = default;
     [[nodiscard]] virtual bool HasCriteriaRows() const = 0;
     virtual void optSearch_Click() = 0;
-    /// Clears GridFound but for its columns, and runs optSearch_Click for the search of contacts: all contacts have changed.
+    /// Clears GridFound but for its columns, and runs optSearch_Click for the search of contacts: all contacts have
+    /// changed.
     virtual void SearchContactsAnew() = 0;
 };
 

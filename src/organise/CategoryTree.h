@@ -57,8 +57,8 @@ private:
     void MoveNode(Long newParentID);
     void RehangNode(QTreeWidgetItem* node, Long newParentID);
 
-    /// The first node, in the order of adding, whose key without its letter is this ID. The letter plays no part, which is
-    /// meant: of a category and a subcategory of equal ID the one that was added first wins.
+    /// The first node, in the order of adding, whose key without its letter is this ID. The letter plays no part, which
+    /// is meant: of a category and a subcategory of equal ID the one that was added first wins.
     [[nodiscard]] QTreeWidgetItem* LocateNode(Long id) const;
     [[nodiscard]] QTreeWidgetItem* Selected() const;
 

@@ -3,12 +3,12 @@
 #include "core/RunTimeError.h"
 #include "ui/widgets/KeyCodes.h"
 
-#include <algorithm>
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QStyledItemDelegate>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 

@@ -3,9 +3,9 @@
 #include <QTreeWidget>
 #include <functional>
 
-/// trvCategories as a control: nodes with key and tag, known by the order in which they were added; clicks, keys and label
-/// edits as events. A removal moves the selection to the next sibling, without one to the parent, from a last root to the one
-/// before it, and raises no click.
+/// trvCategories as a control: nodes with key and tag, known by the order in which they were added; clicks, keys and
+/// label edits as events. A removal moves the selection to the next sibling, without one to the parent, from a last
+/// root to the one before it, and raises no click.
 class CategoryTreeView : public QTreeWidget
 {
     Q_OBJECT

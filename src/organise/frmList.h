@@ -10,7 +10,8 @@ class Grid;
 class QAction;
 class QMenu;
 
-/// The list of the contacts of one subcategory. It stands beside the main window, and is brought up to date by explicit calls.
+/// The list of the contacts of one subcategory. It stands beside the main window, and is brought up to date by explicit
+/// calls.
 class frmList : public Form, public ContactListFace
 {
     Q_OBJECT

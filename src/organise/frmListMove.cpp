@@ -48,7 +48,8 @@ void frmList::ContactMove()
         const Destination destination = ReadReply(gReturnValue);
         // Only the first one is looked at, which is meant: a list shows one subcategory.
         if (ContactAt(gHilited.front())->subCategoryID == destination.Sub->RecID) {
-            MsgBox(u"I have cancelled the move operation because the destination\r\nsubcategory is the same as the current "
+            MsgBox(u"I have cancelled the move operation because the destination\r\nsubcategory is the same as the "
+                   u"current "
                    "subcategory."_s,
                    Buttons::Ok, Icon::Information, u"Move has been Cancelled"_s);
             return;

@@ -44,8 +44,7 @@ frmMove::frmMove(What what, const QString& caption, const QString& movedName)
     buttons->addStretch();
     layout->addLayout(buttons);
     m_buttons = std::make_unique<HoverButtonArray>(
-        *this, *buttons,
-        std::vector<HoverPicture>{{2, u"Ok"_s, u"Ok"_s}, {1, u"Cancel"_s, u"Cancel"_s}});
+        *this, *buttons, std::vector<HoverPicture>{{2, u"Ok"_s, u"Ok"_s}, {1, u"Cancel"_s, u"Cancel"_s}});
     m_buttons->LoadBitMaps();
     resize(420, 440);
     setMinimumSize(240, 200);

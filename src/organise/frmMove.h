@@ -6,8 +6,8 @@ class HoverButtonArray;
 class QTreeWidget;
 class QTreeWidgetItem;
 
-/// The small chooser of a target. Its reply stands in gReturnValue: "Cancelled"; for a category the target's ID; for contacts
-/// the position of the target in its category's Subs, "-", and the category's ID.
+/// The small chooser of a target. Its reply stands in gReturnValue: "Cancelled"; for a category the target's ID; for
+/// contacts the position of the target in its category's Subs, "-", and the category's ID.
 class frmMove : public Form
 {
     Q_OBJECT

@@ -2,8 +2,8 @@
 
 #include "core/Types.h"
 
-#include <optional>
 #include <QString>
+#include <optional>
 
 /// A date or money criterion in the form in which the dialogs leave it in the grid: "= 01/31/2026",
 /// "More Than $250,000.00", "From 01/01/2026 To 02/01/2026", "After ...", "Before ...".

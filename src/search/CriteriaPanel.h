@@ -2,8 +2,8 @@
 
 #include "search/SearchWalk.h"
 
-#include <optional>
 #include <QWidget>
+#include <optional>
 
 class Grid;
 class HoverButtonArray;

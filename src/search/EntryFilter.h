@@ -2,8 +2,8 @@
 
 #include "core/FieldRules.h"
 
-#include <functional>
 #include <QObject>
+#include <functional>
 
 class QKeyEvent;
 class QLineEdit;

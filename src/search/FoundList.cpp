@@ -14,10 +14,10 @@
 #include "ui/widgets/HoverButtonArray.h"
 #include "ui/widgets/Theme.h"
 
-#include <numeric>
 #include <QLabel>
 #include <QMenu>
 #include <QVBoxLayout>
+#include <numeric>
 #include <unordered_set>
 
 using namespace Qt::StringLiterals;

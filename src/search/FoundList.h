@@ -2,9 +2,9 @@
 
 #include "model/faces.h"
 
+#include <QWidget>
 #include <functional>
 #include <memory>
-#include <QWidget>
 
 class CriteriaPanel;
 class frmMain;

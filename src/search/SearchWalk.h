@@ -2,8 +2,8 @@
 
 #include "search/CriteriaRows.h"
 
-#include <functional>
 #include <QStringList>
+#include <functional>
 
 class Contact;
 class PropDetail;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <functional>
 #include <QIODevice>
+#include <functional>
 
 /// How many sections a file is cut into, and what becomes of what follows the closing tag of the last but one: the last
 /// section takes it whole, or ends at a closing tag of its own with the rest passed over.

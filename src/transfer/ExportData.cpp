@@ -13,8 +13,8 @@
 #include "ui/widgets/Form.h"
 #include "ui/widgets/Forms.h"
 
-#include <array>
 #include <QFileInfo>
+#include <array>
 
 using namespace Qt::StringLiterals;
 

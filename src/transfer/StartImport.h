@@ -1,7 +1,7 @@
 #pragma once
 
-#include <optional>
 #include <QString>
+#include <optional>
 
 /// The files of the sections of a transfer file; without letters none are read.
 struct SectionFiles

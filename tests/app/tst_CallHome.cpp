@@ -2,7 +2,6 @@
 #include "support/ScriptedUser.h"
 #include "support/Windows.h"
 
-#include <algorithm>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -13,6 +12,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QUrlQuery>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 

@@ -144,7 +144,8 @@ void tst_WholeRoad::FromTheFirstCategoryToTheNextMorning()
         WriteNotes();
         ListGrid().SelectCell(2, 4);
         curContact = ContactAt(2);
-        person.Expect(u"Please Confirm Before I Proceed"_s, u"Do you want me to move Bob  to Moving up?"_s, Answer::Yes);
+        person.Expect(u"Please Confirm Before I Proceed"_s, u"Do you want me to move Bob  to Moving up?"_s,
+                      Answer::Yes);
         MoveSecondContact(run);
     }
     fresh.StartAnew();
@@ -175,7 +176,8 @@ void tst_WholeRoad::AStartThatFailsStaysOnTheSplash()
     gConn.Close();
     QVERIFY(QFile::remove(fresh.DatabaseFile()));
     person.Expect(u"frmSplash Activate Error #-2147467259"_s,
-                  u"[Microsoft][ODBC Microsoft Access Driver] Could not find file '"_s + fresh.DatabaseFile() + u"'."_s);
+                  u"[Microsoft][ODBC Microsoft Access Driver] Could not find file '"_s + fresh.DatabaseFile() +
+                      u"'."_s);
     Run run;
     QTRY_COMPARE(person.Boxes().size(), 1);
     QCOMPARE(person.LastBox().Picture, Icon::Critical);

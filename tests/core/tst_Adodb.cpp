@@ -93,14 +93,16 @@ void tst_Adodb::FaultsBearTheNumbersOfTheirKind_data()
     QTest::addColumn<int>("number");
     QTest::newRow("an apostrophe ends the literal")
         << u"Insert into SubCategories (Description,ParentID) Values ('O'Hara',1)"_s << ErrorNumber::EngineSyntax;
-    QTest::newRow("too many values") << u"Insert into Categories (Description) Values ('a','b')"_s << ErrorNumber::EngineSyntax;
+    QTest::newRow("too many values") << u"Insert into Categories (Description) Values ('a','b')"_s
+                                     << ErrorNumber::EngineSyntax;
     QTest::newRow("unknown column") << u"Update Categories set Nme='x'"_s << ErrorNumber::EngineUnknownColumn;
-    QTest::newRow("unknown column of an insert") << u"Insert into Categories (Nme) Values ('x')"_s
-                                                 << ErrorNumber::EngineUnknownColumn;
+    QTest::newRow("unknown column of an insert")
+        << u"Insert into Categories (Nme) Values ('x')"_s << ErrorNumber::EngineUnknownColumn;
     QTest::newRow("unknown table") << u"Delete from Boats"_s << ErrorNumber::EngineUnknownTable;
-    QTest::newRow("text in a number column") << u"Insert into Contacts (MailState) Values ('x')"_s
-                                             << ErrorNumber::EngineTypeMismatch;
-    QTest::newRow("too wide") << u"Insert into Contacts (SubCategoryID) Values (40000)"_s << ErrorNumber::EngineTypeMismatch;
+    QTest::newRow("text in a number column")
+        << u"Insert into Contacts (MailState) Values ('x')"_s << ErrorNumber::EngineTypeMismatch;
+    QTest::newRow("too wide") << u"Insert into Contacts (SubCategoryID) Values (40000)"_s
+                              << ErrorNumber::EngineTypeMismatch;
     QTest::newRow("no date") << u"Select ID from Alerts Where cdate(AlertDate)='1/5/2026'"_s
                              << ErrorNumber::EngineTypeMismatch;
 }
@@ -178,7 +180,8 @@ void tst_Adodb::TheOldestOfEqualRowsComesFirst()
 {
     const FreshDatabase fresh;
     for (int i = 0; i < 3; ++i)
-        gConn.Execute(u"Insert into Contacts (SubCategoryID,FirstName,LastName,MI,MailAddr1) Values (1,'Ann','Lee','','1 Elm')"_s);
+        gConn.Execute(
+            u"Insert into Contacts (SubCategoryID,FirstName,LastName,MI,MailAddr1) Values (1,'Ann','Lee','','1 Elm')"_s);
     QCOMPARE(FreshDatabase::Rows(u"Select ID from Contacts Where SubCategoryID=1 and FirstName='ANN' and MI='' and "
                                  "LastName='lee' and Mailaddr1='1 elm'"_s),
              (QStringList{u"1"_s, u"2"_s, u"3"_s}));

@@ -4,8 +4,8 @@
 #include "ErrorOf.h"
 #include "HostileTexts.h"
 
-#include <limits>
 #include <QTest>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 

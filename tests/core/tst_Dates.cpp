@@ -5,8 +5,8 @@
 #include "ErrorOf.h"
 #include "HostileTexts.h"
 
-#include <limits>
 #include <QTest>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 

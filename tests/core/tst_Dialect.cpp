@@ -29,9 +29,9 @@ void tst_Dialect::StatementsMeanWhatTheySay_data()
     QTest::newRow("literals are lifted") << u"Select ID from Contacts Where SubCategoryID=7 and FirstName='Ann'"_s
                                          << u"Select ID from Contacts Where SubCategoryID = ? and FirstName = ?"_s
                                          << QStringList{u"7"_s, u"Ann"_s};
-    QTest::newRow("two apostrophes are one") << u"Update Categories set Description='O''Hara''s' Where ID=1"_s
-                                             << u"Update Categories set Description = ? Where ID = ?"_s
-                                             << QStringList{u"O'Hara's"_s, u"1"_s};
+    QTest::newRow("two apostrophes are one")
+        << u"Update Categories set Description='O''Hara''s' Where ID=1"_s
+        << u"Update Categories set Description = ? Where ID = ?"_s << QStringList{u"O'Hara's"_s, u"1"_s};
     QTest::newRow("quotes delimit text") << u"Select ID from T Where A=\"it's\""_s << u"Select ID from T Where A = ?"_s
                                          << QStringList{u"it's"_s};
     QTest::newRow("signs inside a literal are text")
@@ -43,8 +43,9 @@ void tst_Dialect::StatementsMeanWhatTheySay_data()
                                 << u"SELECT City FROM [Contacts] LEFT JOIN [PropDetail] ON PropDetail . ContactID = "
                                    "Contacts . ID Where Contacts . ID in ( 1 , 2 )"_s
                                 << QStringList{};
-    QTest::newRow("numbers of every form") << u"Update T set A=-1.5,B=1E+07,C=.5"_s << u"Update T set A = - ? , B = ? , C = ?"_s
-                                           << QStringList{u"1.5"_s, u"10000000"_s, u"0.5"_s};
+    QTest::newRow("numbers of every form")
+        << u"Update T set A=-1.5,B=1E+07,C=.5"_s << u"Update T set A = - ? , B = ? , C = ?"_s
+        << QStringList{u"1.5"_s, u"10000000"_s, u"0.5"_s};
 }
 
 void tst_Dialect::StatementsMeanWhatTheySay()
@@ -55,7 +56,8 @@ void tst_Dialect::StatementsMeanWhatTheySay()
     QTEST(translated.Text, "text");
     QStringList lifted;
     for (const QVariant& literal : translated.Literals)
-        lifted << (literal.typeId() == QMetaType::Double ? QString::number(literal.toDouble(), 'g', 15) : literal.toString());
+        lifted << (literal.typeId() == QMetaType::Double ? QString::number(literal.toDouble(), 'g', 15)
+                                                         : literal.toString());
     QCOMPARE(lifted, literals);
 }
 

@@ -4,8 +4,8 @@
 #include "core/Dates.h"
 #include "HostileTexts.h"
 
-#include <array>
 #include <QTest>
+#include <array>
 
 using namespace Qt::StringLiterals;
 

@@ -3,9 +3,9 @@
 #include "core/RunTimeError.h"
 #include "support/FreshDatabase.h"
 
-#include <limits>
 #include <QBuffer>
 #include <QTest>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 

@@ -4,11 +4,11 @@
 #include "editors/PropertyRows.h"
 #include "editors/RecordingFaces.h"
 
-#include <map>
 #include <QCalendarWidget>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QToolButton>
+#include <map>
 
 using namespace Qt::StringLiterals;
 using enum PropertyField;

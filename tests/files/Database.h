@@ -1,9 +1,9 @@
 #pragma once
 
-#include <memory>
 #include <QByteArray>
 #include <QList>
 #include <QStringList>
+#include <memory>
 
 struct sqlite3;
 

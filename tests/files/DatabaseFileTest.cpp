@@ -1,10 +1,10 @@
 #include "Database.h"
 
-#include <memory>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -7,6 +6,7 @@
 #include <QSvgRenderer>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,5 @@
 #include "Database.h"
 
-#include <cmath>
 #include <QFile>
 #include <QHash>
 #include <QRegularExpression>
@@ -8,6 +7,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 #include <QXmlStreamReader>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 

@@ -1,9 +1,9 @@
 #include "Database.h"
 
-#include <memory>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 

@@ -3,8 +3,8 @@
 #include "core/adodb/StoredText.h"
 #include "core/RunTimeError.h"
 
-#include <optional>
 #include <QString>
+#include <optional>
 
 /// The text that the fuzzer made; unpaired surrogates occur in it.
 inline QString TextOf(const uint8_t* data, size_t size)

@@ -7,8 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
-/// The house stands only while an include points down: from a feature to the floors below, never to another feature, and
-/// never in a circle.
+/// The house stands only while an include points down: from a feature to the floors below, never to another feature,
+/// and never in a circle.
 class tst_Includes : public QObject
 {
     Q_OBJECT
@@ -35,8 +35,8 @@ QString Folder(const QString& path)
 /// The floor of a folder, from the ground; the features share one.
 int Floor(const QString& folder)
 {
-    static const QHash<QString, int> floors{{u"core"_s, 0},    {u"model"_s, 1},    {u"ui"_s, 2},      {u"organise"_s, 3},
-                                            {u"editors"_s, 3}, {u"alerts"_s, 3},   {u"search"_s, 3},  {u"letters"_s, 3},
+    static const QHash<QString, int> floors{{u"core"_s, 0},     {u"model"_s, 1},  {u"ui"_s, 2},     {u"organise"_s, 3},
+                                            {u"editors"_s, 3},  {u"alerts"_s, 3}, {u"search"_s, 3}, {u"letters"_s, 3},
                                             {u"transfer"_s, 3}, {u"app"_s, 4}};
     return floors.value(folder, -1);
 }
@@ -79,7 +79,7 @@ void tst_Includes::NoIncludePointsUpOrSideways()
 void tst_Includes::CoreAndModelKnowNoWindows()
 {
     static const QSet<QString> windowed{u"QWidget"_s, u"QApplication"_s, u"QMessageBox"_s, u"QDialog"_s, u"QColor"_s,
-                                        u"QFont"_s, u"QPixmap"_s, u"QtWidgets"_s, u"QtGui"_s};
+                                        u"QFont"_s,   u"QPixmap"_s,      u"QtWidgets"_s,   u"QtGui"_s};
     for (auto file = m_includes.cbegin(); file != m_includes.cend(); ++file) {
         if (Floor(Folder(file.key())) > 1)
             continue;

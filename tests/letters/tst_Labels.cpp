@@ -4,10 +4,10 @@
 
 #include "letters/LabelsMerge.h"
 
-#include <algorithm>
-#include <cmath>
 #include <QFile>
 #include <QPushButton>
+#include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 

@@ -13,9 +13,9 @@
 #include "model/LoadContacts.h"
 #include "model/Main.h"
 
-#include <algorithm>
 #include <QProcess>
 #include <QTest>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 

@@ -5,11 +5,11 @@
 #include "core/Clock.h"
 #include "core/RunTimeError.h"
 
-#include <cmath>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 

@@ -40,8 +40,9 @@ void tst_Loading::Load()
 
 void tst_Loading::AddContact(int category, int subCategory)
 {
-    FreshDatabase::Execute(u"Insert into Contacts (CategoryID,SubCategoryID,FirstName) Values (%1,%2,'x')"_s.arg(category).arg(
-        subCategory));
+    FreshDatabase::Execute(
+        u"Insert into Contacts (CategoryID,SubCategoryID,FirstName) Values (%1,%2,'x')"_s.arg(category).arg(
+            subCategory));
 }
 
 void tst_Loading::OrphansArePurgedWithoutAWord()
@@ -130,9 +131,10 @@ void tst_Loading::TheFirstStartWritesOneRowOfSettings()
     QCOMPARE(gSettings.Picture, images + u"Impressionist1.jpg"_s);
     QCOMPARE(gSettings.PropPicture, images + u"Impressionist2.jpg"_s);
     QCOMPARE(gSettings.ClientName, QString());
-    QCOMPARE(fresh.TakeStatements()[1],
-             u"Insert into Settings (LabelProduct,LabelNumber,DefaultPicture,DefaultPropPicture,ClientName) values (0,'','"_s +
-                 images + u"Impressionist1.jpg','"_s + images + u"Impressionist2.jpg','')"_s);
+    QCOMPARE(
+        fresh.TakeStatements()[1],
+        u"Insert into Settings (LabelProduct,LabelNumber,DefaultPicture,DefaultPropPicture,ClientName) values (0,'','"_s +
+            images + u"Impressionist1.jpg','"_s + images + u"Impressionist2.jpg','')"_s);
     fresh.StartAnew();
     LoadSettings();
     QCOMPARE(FreshDatabase::Rows(u"Select LabelProduct from Settings"_s).size(), 1);
@@ -161,9 +163,11 @@ void tst_Loading::AMissingPictureIsReportedOnce()
     FreshDatabase::Execute(u"Insert into Settings (DefaultPicture,DefaultPropPicture,ClientName) "
                            "Values ('/gone/a.jpg','/gone/b.jpg','Lee Realty ')"_s);
     user.Expect(u"Default Contact List Picture File is Missing"_s,
-                u"I couldn't locate the default image file associated with the contact list:\r\n/gone/a.jpg"_s, Answer::Ok);
+                u"I couldn't locate the default image file associated with the contact list:\r\n/gone/a.jpg"_s,
+                Answer::Ok);
     user.Expect(u"Default Property List Picture File is Missing"_s,
-                u"I couldn't locate the default image file associated with the property list:\r\n/gone/b.jpg"_s, Answer::Ok);
+                u"I couldn't locate the default image file associated with the property list:\r\n/gone/b.jpg"_s,
+                Answer::Ok);
     LoadSettings();
     QCOMPARE(gSettings.Picture, QString());
     fresh.StartAnew();

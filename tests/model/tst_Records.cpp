@@ -65,18 +65,19 @@ void tst_Records::AContactIsWrittenAndReadBackByTheseStatements()
     QCOMPARE(contact->RecID, 1);
     contact->DefaultProperty = 7;
     contact->UpdateDB(1);
-    QCOMPARE(fresh.TakeStatements(),
-             (QStringList{
-                 u"Insert into Contacts (CategoryID,SubCategoryID,FirstName,LastName,MI,FormattedName,Salutation,MailAddr1,"
-                 "MailAddr2,MailCity,MailState,MailZip,MailZip4,Company,WorkPhone,Ext,HomePhone,Cell,Fax,Email,ReferredBy,"
-                 "Notes,Spouse)  Values (1,2,'Ann','O''Hara','B','Ann B O''Hara','','1 Elm St','','',5,'','','','','','','',"
-                 "'','','','one\r\ntwo','')"_s,
-                 u"Select ID from Contacts Where SubCategoryID=2 and FirstName='Ann' and MI='B' and LastName='O''Hara' and "
-                 "Mailaddr1='1 Elm St'"_s,
-                 u"Update Contacts set CategoryID=1,SubCategoryID=2,FirstName='Ann',LastName='O''Hara',MI='B',"
-                 "FormattedName='Ann B O''Hara',Salutation='',MailAddr1='1 Elm St',MailAddr2='',MailCity='',MailState=5,"
-                 "MailZip='',MailZip4='',Company='',WorkPhone='',Ext='',HomePhone='',Cell='',Fax='',Email='',ReferredBy='',"
-                 "Notes='one\r\ntwo',Spouse='', DefaultProperty=7 Where ID=1"_s}));
+    QCOMPARE(
+        fresh.TakeStatements(),
+        (QStringList{
+            u"Insert into Contacts (CategoryID,SubCategoryID,FirstName,LastName,MI,FormattedName,Salutation,MailAddr1,"
+            "MailAddr2,MailCity,MailState,MailZip,MailZip4,Company,WorkPhone,Ext,HomePhone,Cell,Fax,Email,ReferredBy,"
+            "Notes,Spouse)  Values (1,2,'Ann','O''Hara','B','Ann B O''Hara','','1 Elm St','','',5,'','','','','','','',"
+            "'','','','one\r\ntwo','')"_s,
+            u"Select ID from Contacts Where SubCategoryID=2 and FirstName='Ann' and MI='B' and LastName='O''Hara' and "
+            "Mailaddr1='1 Elm St'"_s,
+            u"Update Contacts set CategoryID=1,SubCategoryID=2,FirstName='Ann',LastName='O''Hara',MI='B',"
+            "FormattedName='Ann B O''Hara',Salutation='',MailAddr1='1 Elm St',MailAddr2='',MailCity='',MailState=5,"
+            "MailZip='',MailZip4='',Company='',WorkPhone='',Ext='',HomePhone='',Cell='',Fax='',Email='',ReferredBy='',"
+            "Notes='one\r\ntwo',Spouse='', DefaultProperty=7 Where ID=1"_s}));
     QCOMPARE(FreshDatabase::Rows(u"Select FormattedName,MailState,DefaultProperty from Contacts"_s),
              QStringList{u"Ann B O'Hara|5|7"_s});
 }
@@ -86,9 +87,10 @@ void tst_Records::AnApostropheIsStoredWhereItIsProtected_data()
     QTest::addColumn<int>("member");
     QTest::addColumn<bool>("inserted");
     QTest::addColumn<bool>("updated");
-    const QStringList names{u"FirstName"_s, u"LastName"_s, u"Salutation"_s, u"MailAddr2"_s, u"MailCity"_s, u"Company"_s,
-                            u"ReferredBy"_s, u"Notes"_s, u"Spouse"_s, u"Email"_s, u"MI"_s, u"MailZip"_s, u"MailZip4"_s,
-                            u"WorkPhone"_s, u"Ext"_s, u"HomePhone"_s, u"Cell"_s, u"Fax"_s};
+    const QStringList names{u"FirstName"_s, u"LastName"_s,   u"Salutation"_s, u"MailAddr2"_s, u"MailCity"_s,
+                            u"Company"_s,   u"ReferredBy"_s, u"Notes"_s,      u"Spouse"_s,    u"Email"_s,
+                            u"MI"_s,        u"MailZip"_s,    u"MailZip4"_s,   u"WorkPhone"_s, u"Ext"_s,
+                            u"HomePhone"_s, u"Cell"_s,       u"Fax"_s};
     for (int i = 0; i < names.size(); ++i)
         QTest::newRow(qPrintable(names[i])) << i << (i < 9) << (i < 10);
 }
@@ -99,10 +101,10 @@ void tst_Records::AnApostropheIsStoredWhereItIsProtected()
     QFETCH(bool, inserted);
     QFETCH(bool, updated);
     constexpr QString Contact::*members[]{
-        &Contact::FirstName, &Contact::LastName, &Contact::Salutation, &Contact::MailAddr2, &Contact::MailCity,
-        &Contact::Company,   &Contact::ReferredBy, &Contact::Notes,    &Contact::Spouse,    &Contact::Email,
-        &Contact::MI,        &Contact::MailZip,  &Contact::MailZip4,   &Contact::WorkPhone, &Contact::Ext,
-        &Contact::HomePhone, &Contact::Cell,     &Contact::Fax};
+        &Contact::FirstName, &Contact::LastName,   &Contact::Salutation, &Contact::MailAddr2, &Contact::MailCity,
+        &Contact::Company,   &Contact::ReferredBy, &Contact::Notes,      &Contact::Spouse,    &Contact::Email,
+        &Contact::MI,        &Contact::MailZip,    &Contact::MailZip4,   &Contact::WorkPhone, &Contact::Ext,
+        &Contact::HomePhone, &Contact::Cell,       &Contact::Fax};
     const FreshDatabase fresh;
     ScriptedUser user;
     QCOMPARE(NewContact()->AddToDB(2), 1);
@@ -184,19 +186,20 @@ void tst_Records::APropertyIsWrittenByTheseStatements()
     property.RecID = property.SaveToDB();
     QCOMPARE(property.RecID, 1);
     property.UpdateDB();
-    QCOMPARE(fresh.TakeStatements(),
-             (QStringList{
-                 u"Insert Into PropDetail (Addr1,Addr2,City,State,Zip,Zip4,ContactID,MLS,Subdivision,PropType,Construction,"
-                 "SqFt,Roof,Parking,Rooms,Baths,Floor,Pool,MaintFee,AssocFee,Waterfront,Floodzone,Rented,RentalBasis,"
-                 "RentalAmount,LeaseExpires,Elevator,PetsAllowed,ListingDate,AskingPrice,ExpDate,ClosingDate,SoldDate,"
-                 "SoldPrice) Values ('2 Oak','','',3,'','',4,'','',0,0,1500,0,0,0,2.5,0,0,0,0,'0','0','2',0,0,'','0','0',"
-                 "'01/05/2026',250000.5,'','','',0)"_s,
-                 u"Select ID from PropDetail Where Addr1='2 Oak' And Addr2='' And ContactID=4"_s,
-                 u"Update PropDetail set Addr1='2 Oak',Addr2='', City='',State='3',Zip='', zip4='',contactid=4,MLS='', "
-                 "Subdivision='',PropType=0,Construction=0, SqFt='1500',Roof=0, Parking=0, Rooms='0',Baths='2.5',Floor=0, "
-                 "Pool=0,MaintFee=0,AssocFee=0, Waterfront=0,Floodzone=0,Rented=2,RentalBasis=0,RentalAmount=0,"
-                 "LeaseExpires='',Elevator=0, PetsAllowed=0,ListingDate='01/05/2026',AskingPrice=250000.5, ExpDate='',"
-                 "ClosingDate='',SoldDate='', SoldPrice=0 Where ID=1"_s}));
+    QCOMPARE(
+        fresh.TakeStatements(),
+        (QStringList{
+            u"Insert Into PropDetail (Addr1,Addr2,City,State,Zip,Zip4,ContactID,MLS,Subdivision,PropType,Construction,"
+            "SqFt,Roof,Parking,Rooms,Baths,Floor,Pool,MaintFee,AssocFee,Waterfront,Floodzone,Rented,RentalBasis,"
+            "RentalAmount,LeaseExpires,Elevator,PetsAllowed,ListingDate,AskingPrice,ExpDate,ClosingDate,SoldDate,"
+            "SoldPrice) Values ('2 Oak','','',3,'','',4,'','',0,0,1500,0,0,0,2.5,0,0,0,0,'0','0','2',0,0,'','0','0',"
+            "'01/05/2026',250000.5,'','','',0)"_s,
+            u"Select ID from PropDetail Where Addr1='2 Oak' And Addr2='' And ContactID=4"_s,
+            u"Update PropDetail set Addr1='2 Oak',Addr2='', City='',State='3',Zip='', zip4='',contactid=4,MLS='', "
+            "Subdivision='',PropType=0,Construction=0, SqFt='1500',Roof=0, Parking=0, Rooms='0',Baths='2.5',Floor=0, "
+            "Pool=0,MaintFee=0,AssocFee=0, Waterfront=0,Floodzone=0,Rented=2,RentalBasis=0,RentalAmount=0,"
+            "LeaseExpires='',Elevator=0, PetsAllowed=0,ListingDate='01/05/2026',AskingPrice=250000.5, ExpDate='',"
+            "ClosingDate='',SoldDate='', SoldPrice=0 Where ID=1"_s}));
 
     curContact->LoadProperties();
     const auto read = *curContact->Properties.Find(1);

@@ -98,12 +98,14 @@ private:
     static void AddSub(QLatin1StringView name, int parent)
     {
         FreshDatabase::Execute(QStringLiteral("Insert into SubCategories (Description,ParentID) Values ('%1',%2)")
-                                   .arg(QString(name)).arg(parent));
+                                   .arg(QString(name))
+                                   .arg(parent));
     }
     static void AddContact(QLatin1StringView first, QLatin1StringView mi, QLatin1StringView last, int sub)
     {
         FreshDatabase::Execute(QStringLiteral("Insert into Contacts (CategoryID,SubCategoryID,FirstName,MI,LastName) "
                                               "Values (1,%1,'%2','%3','%4')")
-                                   .arg(sub).arg(QString(first), QString(mi), QString(last)));
+                                   .arg(sub)
+                                   .arg(QString(first), QString(mi), QString(last)));
     }
 };

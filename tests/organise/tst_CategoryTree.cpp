@@ -64,19 +64,26 @@ void tst_CategoryTree::TheMenuOffersWhatTheNodeAllows_data()
     QTest::addColumn<QString>("key");
     QTest::addColumn<QStringList>("captions");
     QTest::addColumn<QString>("enabled"); // one letter for each entry
-    QTest::newRow("category") << u"C1"_s
-                              << QStringList{u"New Category"_s, u"New SubCategory Under Buyers"_s, u"Rename Buyers"_s,
-                                             u"Delete Buyers"_s, u"Move"_s, u"View Contacts"_s, u"Contacts"_s}
+    QTest::newRow("category") << u"C1"_s << QStringList{u"New Category"_s,  u"New SubCategory Under Buyers"_s,
+                                                        u"Rename Buyers"_s, u"Delete Buyers"_s,
+                                                        u"Move"_s,          u"View Contacts"_s,
+                                                        u"Contacts"_s}
                               << u"yyyynnn"_s;
-    QTest::newRow("subcategory") << u"S1"_s
-                                 << QStringList{u"New Category"_s, u"New SubCategory Under Buyers"_s,
-                                                u"Rename First home"_s, u"Delete First home"_s, u"Move First home"_s,
-                                                u"View First home's Contacts"_s, u"New Contact Under First home"_s}
+    QTest::newRow("subcategory") << u"S1"_s << QStringList{u"New Category"_s,
+                                                           u"New SubCategory Under Buyers"_s,
+                                                           u"Rename First home"_s,
+                                                           u"Delete First home"_s,
+                                                           u"Move First home"_s,
+                                                           u"View First home's Contacts"_s,
+                                                           u"New Contact Under First home"_s}
                                  << u"yyyyyyy"_s;
-    QTest::newRow("empty subcategory") << u"S3"_s
-                                       << QStringList{u"New Category"_s, u"New SubCategory Under Sellers"_s,
-                                                      u"Rename Houses"_s, u"Delete Houses"_s, u"Move Houses"_s,
-                                                      u"View Houses's Contacts"_s, u"New Contact Under Houses"_s}
+    QTest::newRow("empty subcategory") << u"S3"_s << QStringList{u"New Category"_s,
+                                                                 u"New SubCategory Under Sellers"_s,
+                                                                 u"Rename Houses"_s,
+                                                                 u"Delete Houses"_s,
+                                                                 u"Move Houses"_s,
+                                                                 u"View Houses's Contacts"_s,
+                                                                 u"New Contact Under Houses"_s}
                                        << u"yyyyyny"_s;
 }
 
@@ -165,8 +172,9 @@ void tst_CategoryTree::ARename()
     Desk desk;
     desk.Click(u"S1"_s);
     if (refused) {
-        desk.Person.Expect(u"Rename Cancelled"_s, u"I did not rename First home because I found\r\nanother subcategory named "_s +
-                                                      typed + u" in Buyers."_s);
+        desk.Person.Expect(u"Rename Cancelled"_s,
+                           u"I did not rename First home because I found\r\nanother subcategory named "_s + typed +
+                               u" in Buyers."_s);
     }
     desk.Entry(u"mnuCatRename"_s).trigger();
     auto* editor = desk.View().findChild<QLineEdit*>();
@@ -243,7 +251,8 @@ void tst_CategoryTree::AMoveKeepsTheCountsAsTheyWere()
 {
     Desk desk;
     desk.Click(u"S2"_s);
-    desk.Person.Expect(u"Please Confirm Before I Proceed"_s, u"Do you want me to move Moving up to Vendors?"_s, Answer::Yes);
+    desk.Person.Expect(u"Please Confirm Before I Proceed"_s, u"Do you want me to move Moving up to Vendors?"_s,
+                       Answer::Yes);
     WhenFormOpens chooser(u"frmMove"_s, [](Form& form) {
         QCOMPARE(form.windowTitle(), u"Do you want me to move Moving up to "_s);
         auto& tree = Control<QTreeWidget>(form, u"TreeView1"_s);
@@ -270,9 +279,10 @@ void tst_CategoryTree::AMoveIsRefused_data()
     QTest::addColumn<QString>("text");
     QTest::newRow("to where it is") << 0 << u"Move has been Cancelled"_s
                                     << u"I did not move Moving up\r\nbecause it is already in Buyers."_s;
-    QTest::newRow("to a namesake") << 1 << u"Move Cancelled"_s
-                                   << u"I did not move Moving up\r\nbecause I have found another subcategory with the same name "
-                                      "in Sellers."_s;
+    QTest::newRow("to a namesake")
+        << 1 << u"Move Cancelled"_s
+        << u"I did not move Moving up\r\nbecause I have found another subcategory with the same name "
+           "in Sellers."_s;
 }
 
 void tst_CategoryTree::AMoveIsRefused()

@@ -60,7 +60,8 @@ void tst_ContactList::ARowForEachContactInTheirOrder()
     Grid& grid = desk.OpenList(u"S1"_s);
     QStringList names;
     for (int row = 1; row <= grid.Rows(); ++row) {
-        names << grid.CellText(row, grid.ColumnIndex(u"FirstName")) + u' ' + grid.CellText(row, grid.ColumnIndex(u"State"));
+        names << grid.CellText(row, grid.ColumnIndex(u"FirstName")) + u' ' +
+                     grid.CellText(row, grid.ColumnIndex(u"State"));
         QCOMPARE(grid.RowItemData(row), row);
     }
     QCOMPARE(names, (QStringList{u"Ann AL"_s, u"Bob AL"_s, u"Cy AL"_s}));
@@ -296,7 +297,8 @@ void tst_ContactList::MovingContactsMovesTheCounts()
     Grid& grid = desk.OpenList(u"S1"_s);
     gSettings.ClientName = u"Mine"_s;
     Press(grid, 2, 4);
-    desk.Person.Expect(u"Please Confirm Before I Proceed"_s, u"Do you want me to move Bob M Ray to Houses?"_s, Answer::Yes);
+    desk.Person.Expect(u"Please Confirm Before I Proceed"_s, u"Do you want me to move Bob M Ray to Houses?"_s,
+                       Answer::Yes);
     WhenFormOpens chooser(u"frmMove"_s, [](Form& form) {
         auto& tree = Control<QTreeWidget>(form, u"TreeView1"_s);
         QTRY_COMPARE(tree.topLevelItemCount(), 3);
@@ -338,7 +340,8 @@ void tst_ContactList::TheChooserWantsASubcategory()
 {
     Desk desk;
     desk.OpenList(u"S1"_s);
-    desk.Person.Expect(u"I can move contacts only to other subcategories"_s, u"Please select a subcategory under Buyers."_s);
+    desk.Person.Expect(u"I can move contacts only to other subcategories"_s,
+                       u"Please select a subcategory under Buyers."_s);
     WhenFormOpens chooser(u"frmMove"_s, [](Form& form) {
         auto& tree = Control<QTreeWidget>(form, u"TreeView1"_s);
         QTRY_COMPARE(tree.topLevelItemCount(), 3);

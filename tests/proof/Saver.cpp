@@ -15,11 +15,11 @@
 
 #include "Saved.h"
 
-#include <cstdlib>
 #include <QApplication>
 #include <QDir>
 #include <QPlainTextEdit>
 #include <QTest>
+#include <cstdlib>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;

@@ -11,9 +11,9 @@
 #include "model/Settings.h"
 #include "support/FreshDatabase.h"
 
-#include <algorithm>
 #include <QRandomGenerator>
 #include <QTest>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 

@@ -4,7 +4,6 @@
 #include "files/Database.h"
 #include "support/FreshDatabase.h"
 
-#include <chrono>
 #include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -12,6 +11,7 @@
 #include <QRandomGenerator>
 #include <QSet>
 #include <QTest>
+#include <chrono>
 #include <thread>
 
 using namespace Qt::StringLiterals;

@@ -79,7 +79,8 @@ void FreshDatabase::StartAnew()
 
 void FreshDatabase::Open()
 {
-    gConn.Open(u"Driver={Microsoft Access Driver (*.mdb)};Dbq="_s + gAppPath + u"\\Data\\Contacts.mdb;Password=kostrevy48"_s);
+    gConn.Open(u"Driver={Microsoft Access Driver (*.mdb)};Dbq="_s + gAppPath +
+               u"\\Data\\Contacts.mdb;Password=kostrevy48"_s);
     Record();
 }
 

@@ -3,8 +3,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// A program folder of its own for one test: a copy of the delivered database, opened by gConn, the delivered pictures, and
-/// every global as at a start. The store is the real one.
+/// A program folder of its own for one test: a copy of the delivered database, opened by gConn, the delivered pictures,
+/// and every global as at a start. The store is the real one.
 class FreshDatabase
 {
 public:

@@ -10,8 +10,8 @@
 
 #include <QTest>
 
-/// The whole program on a file of its own, started in the order of the splash window. A fixture fills the file first and
-/// then calls Start; it calls End before its own members go.
+/// The whole program on a file of its own, started in the order of the splash window. A fixture fills the file first
+/// and then calls Start; it calls End before its own members go.
 class RunningProgram
 {
 public:

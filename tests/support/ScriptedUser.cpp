@@ -83,8 +83,7 @@ Answer ScriptedUser::MsgBox(const QString& text, Buttons buttons, Icon icon, con
         Fail(u"A box that was not expected: \"%1\" \"%2\""_s.arg(title, text));
     } else {
         const Expected expected = m_expected.takeFirst();
-        if (expected.AsksForText || expected.Title != title ||
-            (expected.Text != text && !expected.Text.isNull()))
+        if (expected.AsksForText || expected.Title != title || (expected.Text != text && !expected.Text.isNull()))
             Fail(u"Expected \"%1\" \"%2\", but \"%3\" \"%4\" came"_s.arg(expected.Title, expected.Text, title, text));
         else if (!Has(buttons, expected.Button))
             Fail(u"\"%1\" has no such button"_s.arg(text));

@@ -2,11 +2,11 @@
 
 #include "ui/widgets/Forms.h"
 
-#include <chrono>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QTest>
 #include <QWindow>
+#include <chrono>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;

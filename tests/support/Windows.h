@@ -2,9 +2,9 @@
 
 #include "ui/widgets/Form.h"
 
-#include <functional>
 #include <QMessageBox>
 #include <QTimer>
+#include <functional>
 
 // Working real windows as a person does.
 

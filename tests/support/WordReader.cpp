@@ -1,6 +1,5 @@
 #include "support/WordReader.h"
 
-#include <memory>
 #include <QDir>
 #include <QFileInfo>
 #include <QHash>
@@ -11,6 +10,7 @@
 #include <QTest>
 #include <QUrl>
 #include <QXmlStreamReader>
+#include <memory>
 #include <zip.h>
 
 using namespace Qt::StringLiterals;

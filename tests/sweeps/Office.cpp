@@ -9,10 +9,10 @@
 #include "ui/widgets/Forms.h"
 #include "ui/widgets/Grid.h"
 
-#include <algorithm>
 #include <QAction>
 #include <QFile>
 #include <QTest>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 

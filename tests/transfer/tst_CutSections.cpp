@@ -1,8 +1,8 @@
 #include "transfer/CutSections.h"
 
-#include <list>
 #include <QBuffer>
 #include <QTest>
+#include <list>
 
 using namespace Qt::StringLiterals;
 

@@ -3,14 +3,14 @@
 #include "ui/widgets/Form.h"
 #include "ui/widgets/Forms.h"
 
-#include <chrono>
-#include <exception>
 #include <QAbstractButton>
 #include <QApplication>
 #include <QEventLoop>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <chrono>
+#include <exception>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;

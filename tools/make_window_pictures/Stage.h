@@ -1,8 +1,8 @@
 #pragma once
 
-#include <functional>
 #include <QString>
 #include <QWidget>
+#include <functional>
 #include <stdexcept>
 
 // Working the windows of the running program for their pictures.

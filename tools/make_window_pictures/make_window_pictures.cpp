@@ -13,11 +13,11 @@
 #include "ui/widgets/Pictures.h"
 #include "ui/widgets/Theme.h"
 
-#include <cstdio>
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QTemporaryDir>
 #include <QTest>
+#include <cstdio>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;

@@ -5,8 +5,8 @@
 #include "Tree.h"
 #include "Words.h"
 
-#include <cmath>
 #include <QSet>
+#include <cmath>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;

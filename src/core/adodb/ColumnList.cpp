@@ -24,8 +24,8 @@ ColumnList::ColumnList(sqlite3_stmt* statement)
     const int count = sqlite3_column_count(statement);
     m_columns.reserve(static_cast<size_t>(count));
     for (int i = 0; i < count; ++i)
-        m_columns.push_back({QString::fromUtf8(sqlite3_column_name(statement, i)),
-                             KindOf(sqlite3_column_decltype(statement, i))});
+        m_columns.push_back(
+            {QString::fromUtf8(sqlite3_column_name(statement, i)), KindOf(sqlite3_column_decltype(statement, i))});
     m_askedNext.assign(m_columns.size() + 1, 0);
 }
 

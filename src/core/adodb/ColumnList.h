@@ -28,8 +28,8 @@ public:
 
     /// The position of a column by its name, case-blind; -1 where there is none.
     [[nodiscard]] int Find(QStringView name) const;
-    /// The same for a caller that asked for column `after` before (-1 for none). Records ask for their columns in the same
-    /// order each time, so the column that was asked for next the last time is tried first.
+    /// The same for a caller that asked for column `after` before (-1 for none). Records ask for their columns in the
+    /// same order each time, so the column that was asked for next the last time is tried first.
     [[nodiscard]] int Find(QLatin1StringView name, int after);
 
 private:

@@ -2,9 +2,9 @@
 
 #include "core/RunTimeError.h"
 
+#include <QString>
 #include <functional>
 #include <memory>
-#include <QString>
 
 class Engine;
 class StatementBatch;

@@ -7,22 +7,22 @@
 /// A statement of the program, translated to the engine's language.
 struct TranslatedStatement
 {
-    QString Text;                  ///< with a "?" in the place of each literal that was lifted
+    QString Text;                   ///< with a "?" in the place of each literal that was lifted
     std::vector<QVariant> Literals; ///< the lifted literals in their order: QString, qint64 or double
-    bool Reusable = false;         ///< the text is the same for each use, so its prepared form is worth keeping
-    QString UpdatableTable;        ///< the table of a plain "Select * from T ...", otherwise empty
+    bool Reusable = false;          ///< the text is the same for each use, so its prepared form is worth keeping
+    QString UpdatableTable;         ///< the table of a plain "Select * from T ...", otherwise empty
 };
 
-/// Gives a statement its meaning on this engine. The statement is read by a lexer that knows literals, bracketed names and
-/// numbers, never by text replacement, so that no text in a field can change what the statement is:
-/// - exactly one statement; "--", "/*", ";" and an open literal are syntax errors, since the language that these texts are
+/// Gives a statement its meaning on this engine. The statement is read by a lexer that knows literals, bracketed names
+/// and numbers, never by text replacement, so that no text in a field can change what the statement is:
+/// - exactly one statement; "--", "/*", ";" and an open literal are syntax errors, since the language that these texts
+/// are
 ///   written in has no comments;
 /// - "Delete * from" is "Delete from"; "A RIGHT JOIN B ON c" is "B LEFT JOIN A ON c";
 /// - "in ()" and a second row behind Values are errors;
 /// - double quotes delimit text, brackets names.
-/// Text and number literals are lifted into bound values, but for those of an "in (...)" list and for statements with more
-/// than 64 of them, which are prepared as they stand.
-/// Raises ErrorNumber::EngineSyntax.
+/// Text and number literals are lifted into bound values, but for those of an "in (...)" list and for statements with
+/// more than 64 of them, which are prepared as they stand. Raises ErrorNumber::EngineSyntax.
 [[nodiscard]] TranslatedStatement Translate(const QString& statement);
 
 /// The words in front of every message of the engine.

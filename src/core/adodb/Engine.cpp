@@ -46,9 +46,8 @@ int NumberOf(int code, const QString& message)
 /// The words for a value that a column refuses, in the language of the person rather than that of the constraint.
 QString WordsOf(int number, const QString& message)
 {
-    return number == ErrorNumber::EngineTypeMismatch
-               ? u"Data type mismatch in criteria expression. (%1)"_s.arg(message)
-               : message;
+    return number == ErrorNumber::EngineTypeMismatch ? u"Data type mismatch in criteria expression. (%1)"_s.arg(message)
+                                                     : message;
 }
 
 /// cdate(x): the default text of the date that x names, so that it equals the text that the program writes.
@@ -71,8 +70,8 @@ void CDateFunction(sqlite3_context* context, int, sqlite3_value** arguments)
 
 bool IsKnownTable(const char* name)
 {
-    static const QSet<QByteArray> known{"categories",   "subcategories", "contacts",      "propdetail",  "alerts",
-                                        "formletters",  "settings",      "labelproducts", "labelnumbers"};
+    static const QSet<QByteArray> known{"categories",  "subcategories", "contacts",      "propdetail",  "alerts",
+                                        "formletters", "settings",      "labelproducts", "labelnumbers"};
     return name != nullptr && known.contains(QByteArray(name).toLower());
 }
 
@@ -126,7 +125,8 @@ Engine::Engine(const QString& path, const QString& password)
 {
     if (!QFileInfo(path).isFile())
         Raise(ErrorNumber::EngineFailure, u"Could not find file '%1'."_s.arg(path));
-    const int opened = sqlite3_open_v2(QFile::encodeName(path).constData(), &m_database, SQLITE_OPEN_READWRITE, nullptr);
+    const int opened =
+        sqlite3_open_v2(QFile::encodeName(path).constData(), &m_database, SQLITE_OPEN_READWRITE, nullptr);
     try {
         if (opened != SQLITE_OK)
             RaiseLast();
@@ -138,7 +138,8 @@ Engine::Engine(const QString& path, const QString& password)
         sqlite3_close_v2(m_database);
         throw;
     }
-    QFile::setPermissions(path, QFile::ReadOwner | (QFileInfo(path).isWritable() ? QFile::WriteOwner : QFile::Permissions{}));
+    QFile::setPermissions(path,
+                          QFile::ReadOwner | (QFileInfo(path).isWritable() ? QFile::WriteOwner : QFile::Permissions{}));
 }
 
 Engine::~Engine()
@@ -210,11 +211,13 @@ Engine::Form Engine::Compile(const QString& text) const
     const QByteArray bytes = ToStored(text);
     sqlite3_stmt* statement = nullptr;
     const char* tail = nullptr;
-    if (sqlite3_prepare_v2(m_database, bytes.constData(), static_cast<int>(bytes.size()), &statement, &tail) != SQLITE_OK)
+    if (sqlite3_prepare_v2(m_database, bytes.constData(), static_cast<int>(bytes.size()), &statement, &tail) !=
+        SQLITE_OK)
         RaiseLast();
     if (statement == nullptr || tail != bytes.constData() + bytes.size()) {
         sqlite3_finalize(statement);
-        Raise(ErrorNumber::EngineSyntax, u"Invalid SQL statement; expected 'DELETE', 'INSERT', 'SELECT', or 'UPDATE'."_s);
+        Raise(ErrorNumber::EngineSyntax,
+              u"Invalid SQL statement; expected 'DELETE', 'INSERT', 'SELECT', or 'UPDATE'."_s);
     }
     return {statement, std::make_shared<ColumnList>(statement)};
 }
@@ -249,8 +252,8 @@ Engine::Declaration Engine::Declared(const QString& table, const QString& column
     int notNull = 0;
     int key = 0;
     int autoNumbered = 0;
-    if (sqlite3_table_column_metadata(m_database, nullptr, table.toUtf8().constData(), column.toUtf8().constData(), &type,
-                                      nullptr, &notNull, &key, &autoNumbered) != SQLITE_OK)
+    if (sqlite3_table_column_metadata(m_database, nullptr, table.toUtf8().constData(), column.toUtf8().constData(),
+                                      &type, nullptr, &notNull, &key, &autoNumbered) != SQLITE_OK)
         RaiseLast();
     return {QByteArray(type).toUpper(), notNull != 0 || key != 0, autoNumbered != 0};
 }

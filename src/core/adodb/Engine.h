@@ -42,16 +42,17 @@ public:
         bool m_kept;
     };
 
-    /// Opens an existing file with its key. Raises EnginePassword where the key does not fit (or the file is no database),
-    /// EngineFailure where it is missing or can't be read. Changes nothing where it raises.
+    /// Opens an existing file with its key. Raises EnginePassword where the key does not fit (or the file is no
+    /// database), EngineFailure where it is missing or can't be read. Changes nothing where it raises.
     Engine(const QString& path, const QString& password);
     ~Engine();
     Engine(const Engine&) = delete;
     Engine& operator=(const Engine&) = delete;
 
-    /// Prepares `text`, or takes its kept form, and binds the literals in their order. Only Select, Insert, Update and Delete
-    /// on the known tables are accepted.
-    [[nodiscard]] std::unique_ptr<Running> Prepare(const QString& text, const std::vector<QVariant>& literals, bool keep);
+    /// Prepares `text`, or takes its kept form, and binds the literals in their order. Only Select, Insert, Update and
+    /// Delete on the known tables are accepted.
+    [[nodiscard]] std::unique_ptr<Running> Prepare(const QString& text, const std::vector<QVariant>& literals,
+                                                   bool keep);
 
     /// What a table declares of a column.
     struct Declaration

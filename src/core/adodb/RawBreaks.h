@@ -35,7 +35,7 @@ private:
     QIODevice& m_source;
     Place m_place = Place::Front;
     char m_quote = 0;
-    int m_values = 0; ///< of the tag so far
+    int m_values = 0;    ///< of the tag so far
     QByteArray m_begun;  ///< of Markup, what was read so far
     QByteArray m_last;   ///< of Section, its last signs
     QByteArray m_end;    ///< of Section, how it ends

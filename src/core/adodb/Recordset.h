@@ -31,8 +31,8 @@ enum class CursorType
     Dynamic = 2
 };
 
-/// The rows of one selection, with a current row. Rows are fetched whole when it opens and stay packed until a field is asked
-/// for. A recordset of a plain "Select * from T" with a lock can change and delete its rows.
+/// The rows of one selection, with a current row. Rows are fetched whole when it opens and stay packed until a field is
+/// asked for. A recordset of a plain "Select * from T" with a lock can change and delete its rows.
 class Recordset
 {
 public:
@@ -60,17 +60,17 @@ public:
     ::LockType LockType = ::LockType::ReadOnly;
     ::CursorType CursorType = ::CursorType::ForwardOnly;
 
-    /// Runs the selection; the first row becomes current. Raises 3705 where it is open, 3709 where the connection is closed,
-    /// and the engine's errors.
+    /// Runs the selection; the first row becomes current. Raises 3705 where it is open, 3709 where the connection is
+    /// closed, and the engine's errors.
     void Open(const QString& statement, Connection& connection);
-    /// Takes the rows of an XML rowset (RowsetReader.h); they can't be changed. Raises 3705 where it is open, EngineFailure
-    /// where the document is no rowset.
+    /// Takes the rows of an XML rowset (RowsetReader.h); they can't be changed. Raises 3705 where it is open,
+    /// EngineFailure where the document is no rowset.
     void Open(QIODevice& rowset);
     /// Raises 3704 where it is closed.
     void Close();
-    /// Writes the rows of a table, as they were fetched, as an XML rowset (RowsetWriter.h) into a new file, for its owner's
-    /// eyes only where `secret` is set. Raises 58 where the file exists, 3219 where the rows are not those of one table, and
-    /// the errors of files.
+    /// Writes the rows of a table, as they were fetched, as an XML rowset (RowsetWriter.h) into a new file, for its
+    /// owner's eyes only where `secret` is set. Raises 58 where the file exists, 3219 where the rows are not those of
+    /// one table, and the errors of files.
     void Save(const QString& fileName, bool secret = false) const;
 
     /// The number of rows with a client cursor, otherwise -1.
@@ -82,7 +82,8 @@ public:
     void MoveFirst();
     void MoveLast();
     void MoveNext();
-    /// Goes forward from the current row to the first whose column equals the value of "Name=value"; to the end without one.
+    /// Goes forward from the current row to the first whose column equals the value of "Name=value"; to the end without
+    /// one.
     void Find(const QString& criterion);
 
     [[nodiscard]] int FieldCount() const;

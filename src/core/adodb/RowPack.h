@@ -10,7 +10,8 @@
 
 struct sqlite3_stmt;
 
-/// The rows of a selection as the engine gave them, packed one behind the other, and unpacked value by value when asked.
+/// The rows of a selection as the engine gave them, packed one behind the other, and unpacked value by value when
+/// asked.
 class RowPack
 {
 public:

@@ -4,11 +4,11 @@
 #include "core/Dates.h"
 #include "core/RunTimeError.h"
 
+#include <QRegularExpression>
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
-#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 

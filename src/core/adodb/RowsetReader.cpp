@@ -6,9 +6,9 @@
 #include "core/adodb/RowsetForm.h"
 #include "core/RunTimeError.h"
 
-#include <algorithm>
 #include <QHash>
 #include <QXmlStreamReader>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 

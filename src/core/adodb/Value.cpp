@@ -46,11 +46,11 @@ QString Value::Text() const
 
 Long Value::ToLong() const
 {
-    return std::visit(Match{[](std::monostate) -> Long { RaiseNull(); }, [](qint64 whole) { return Narrow<Long>(whole); },
-                            [](Single number) { return CLng(static_cast<double>(number)); },
-                            [](Currency amount) { return CLng(ToDouble(amount)); },
-                            [](const QString& text) { return CLng(text); }},
-                      m_value);
+    return std::visit(
+        Match{[](std::monostate) -> Long { RaiseNull(); }, [](qint64 whole) { return Narrow<Long>(whole); },
+              [](Single number) { return CLng(static_cast<double>(number)); },
+              [](Currency amount) { return CLng(ToDouble(amount)); }, [](const QString& text) { return CLng(text); }},
+        m_value);
 }
 
 Integer Value::ToInteger() const
@@ -61,7 +61,8 @@ Integer Value::ToInteger() const
 Single Value::ToSingle() const
 {
     return std::visit(Match{[](std::monostate) -> Single { RaiseNull(); },
-                            [](qint64 whole) { return static_cast<Single>(whole); }, [](Single number) { return number; },
+                            [](qint64 whole) { return static_cast<Single>(whole); },
+                            [](Single number) { return number; },
                             [](Currency amount) { return static_cast<Single>(ToDouble(amount)); },
                             [](const QString& text) { return CSng(text); }},
                       m_value);

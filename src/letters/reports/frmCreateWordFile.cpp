@@ -10,9 +10,9 @@
 #include "ui/widgets/HoverButtonArray.h"
 #include "ui_frmCreateWordFile.h"
 
+#include <QHeaderView>
 #include <algorithm>
 #include <array>
-#include <QHeaderView>
 #include <unordered_map>
 
 using namespace Qt::StringLiterals;

@@ -3,8 +3,8 @@
 #include "letters/word/AutoText.h"
 #include "letters/word/Document.h"
 
-#include <memory>
 #include <QString>
+#include <memory>
 #include <vector>
 
 // The word processor as its callers speak to it. Nothing of it runs beside the program: documents are made in memory,

@@ -2,8 +2,8 @@
 
 #include "letters/word/Story.h"
 
-#include <memory>
 #include <QString>
+#include <memory>
 #include <vector>
 
 namespace Word {

@@ -6,9 +6,9 @@
 #include "letters/word/Selection.h"
 #include "letters/word/Story.h"
 
+#include <QString>
 #include <memory>
 #include <optional>
-#include <QString>
 #include <vector>
 
 namespace Word {

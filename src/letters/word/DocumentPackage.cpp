@@ -6,11 +6,11 @@
 #include "letters/word/LabelText.h"
 #include "letters/word/Styles.h"
 
-#include <memory>
 #include <QDir>
 #include <QFile>
 #include <QHash>
 #include <QXmlStreamWriter>
+#include <memory>
 #include <vector>
 #include <zip.h>
 

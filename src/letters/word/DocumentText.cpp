@@ -2,8 +2,8 @@
 
 #include "letters/word/Story.h"
 
-#include <algorithm>
 #include <QXmlStreamWriter>
+#include <algorithm>
 #include <span>
 
 using namespace Qt::StringLiterals;

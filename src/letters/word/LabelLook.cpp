@@ -3,10 +3,10 @@
 #include "letters/word/LabelSheet.h"
 #include "letters/word/Story.h"
 
+#include <QStringList>
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <QStringList>
 
 using namespace Qt::StringLiterals;
 

@@ -2,9 +2,9 @@
 
 #include "letters/word/Errors.h"
 
-#include <array>
 #include <QFile>
 #include <QStringList>
+#include <array>
 
 using namespace Qt::StringLiterals;
 

@@ -5,8 +5,8 @@
 #include "letters/word/LabelLook.h"
 #include "letters/word/Story.h"
 
-#include <algorithm>
 #include <QXmlStreamWriter>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 

@@ -2,8 +2,8 @@
 
 #include "letters/word/DataSource.h"
 
-#include <optional>
 #include <QString>
+#include <optional>
 
 namespace Word {
 

@@ -4,7 +4,6 @@
 #include "letters/word/Document.h"
 #include "letters/word/Errors.h"
 
-#include <array>
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
@@ -12,6 +11,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
+#include <array>
 
 using namespace Qt::StringLiterals;
 

@@ -2,8 +2,8 @@
 
 #include "letters/word/LabelSheet.h"
 
-#include <optional>
 #include <QByteArray>
+#include <optional>
 
 namespace Word {
 

@@ -98,7 +98,8 @@ void ClockPanel::mnuClockFormat_Click()
 
 void ClockPanel::mnuClockSeconds_Click()
 {
-    // The choice is not written: it is saved when a change of the format or of the label writes the row, which is meant.
+    // The choice is not written: it is saved when a change of the format or of the label writes the row, which is
+    // meant.
     gSettings.Clock ^= 2;
     ShowSettings();
     ShowClock();

@@ -9,8 +9,8 @@
 class Menus;
 class StatusPanels;
 
-/// Panel 5 of the status bar: the clock in one of four formats, or the stop-watch, and the menu of both. A stop-watch that
-/// runs goes on while the clock is shown.
+/// Panel 5 of the status bar: the clock in one of four formats, or the stop-watch, and the menu of both. A stop-watch
+/// that runs goes on while the clock is shown.
 class ClockPanel : public QObject
 {
     Q_OBJECT

@@ -10,8 +10,8 @@ class QMenu;
 class QMenuBar;
 class QWidget;
 
-/// The menus of the main window, all of them in their order from the start. An entry that no feature has plugged in stands
-/// there disabled. Entries are known by their names ("mnuCatCreate"), which are also the names of their actions.
+/// The menus of the main window, all of them in their order from the start. An entry that no feature has plugged in
+/// stands there disabled. Entries are known by their names ("mnuCatCreate"), which are also the names of their actions.
 class Menus : public QObject
 {
     Q_OBJECT

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <array>
 #include <QStatusBar>
+#include <array>
 
 class QLabel;
 

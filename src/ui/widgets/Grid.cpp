@@ -9,13 +9,13 @@
 #include "ui/widgets/GridSort.h"
 #include "ui/widgets/KeyCodes.h"
 
-#include <algorithm>
-#include <numeric>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QMouseEvent>
 #include <QPointer>
+#include <algorithm>
+#include <numeric>
 #include <utility>
 
 namespace {

@@ -3,11 +3,11 @@
 #include "core/Types.h"
 #include "ui/widgets/GridBackground.h"
 
-#include <memory>
-#include <optional>
 #include <QColor>
 #include <QString>
 #include <QTableView>
+#include <memory>
+#include <optional>
 #include <vector>
 
 class GridFit;

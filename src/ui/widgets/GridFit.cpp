@@ -2,9 +2,9 @@
 
 #include "ui/widgets/GridModel.h"
 
-#include <algorithm>
 #include <QFontMetrics>
 #include <QtMath>
+#include <algorithm>
 
 namespace {
 

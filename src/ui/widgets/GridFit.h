@@ -1,7 +1,7 @@
 #pragma once
 
-#include <array>
 #include <QFont>
+#include <array>
 #include <vector>
 
 class GridModel;

@@ -2,9 +2,9 @@
 
 #include "ui/widgets/Grid.h"
 
-#include <optional>
 #include <QAbstractTableModel>
 #include <QHash>
+#include <optional>
 #include <vector>
 
 /// What a cell shows beside its text. Few cells have one.

@@ -1,6 +1,5 @@
 #include "ui/widgets/MessageWindow.h"
 
-#include <memory>
 #include <QCloseEvent>
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -8,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QWindow>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <functional>
 #include <QString>
+#include <functional>
 
 /// Opens a file with the system's default program for it. False where there is no such program.
 [[nodiscard]] bool OpenFile(const QString& path);

@@ -1,8 +1,8 @@
 #include "ui/widgets/ResizeScaler.h"
 
-#include <algorithm>
 #include <QComboBox>
 #include <QFontInfo>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
