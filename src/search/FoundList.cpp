@@ -18,13 +18,11 @@
 #include <QMenu>
 #include <QVBoxLayout>
 #include <numeric>
-#include <unordered_set>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int nameColumn = 1;
 constexpr int clearButton = 4;
 
 /// What the colours of the heading read on, in both schemes.
@@ -141,7 +139,7 @@ void FoundList::End()
     }
     m_grid->SetRedraw(true);
     if (m_grid->SelectedRow() > 0)
-        m_grid->EnsureVisible(m_grid->SelectedRow(), nameColumn);
+        m_grid->EnsureVisible(m_grid->SelectedRow(), NameColumn);
     ShowCountAndTakeFirst();
 }
 
@@ -267,97 +265,4 @@ void FoundList::ShowHeading(const QString& text, const QColor& color)
     palette.setColor(QPalette::WindowText, color);
     m_lblFound->setPalette(palette);
     m_lblFound->setText(text);
-}
-
-// The rows, as others see them.
-
-std::vector<Long> FoundList::Records(SearchMode mode, const std::function<bool(int row)>& wanted) const
-{
-    std::vector<Long> records;
-    if (m_criteria.Mode() != mode)
-        return records;
-    for (int row = 1; row <= m_grid->Rows(); ++row) {
-        if (m_grid->RowVisible(row) && wanted(row))
-            records.push_back(m_grid->RowItemData(row));
-    }
-    return records;
-}
-
-std::vector<Long> FoundList::FoundContacts() const
-{
-    return Records(SearchMode::Contacts, [](int) { return true; });
-}
-
-std::vector<Long> FoundList::HighlightedContacts() const
-{
-    return Records(SearchMode::Contacts, [this](int row) { return m_grid->CellSelected(row, 1); });
-}
-
-std::vector<Long> FoundList::FoundProperties() const
-{
-    return Records(SearchMode::Properties, [](int) { return true; });
-}
-
-std::vector<Long> FoundList::HighlightedProperties() const
-{
-    return Records(SearchMode::Properties, [this](int row) { return m_grid->CellSelected(row, 1); });
-}
-
-void FoundList::MarkRow(int row, bool selected)
-{
-    if (!selected) {
-        m_grid->ResetCellFont(row, nameColumn);
-        m_grid->SetCellColor(row, nameColumn, QColor());
-        return;
-    }
-    QFont boldItalic = m_grid->font();
-    boldItalic.setBold(true);
-    boldItalic.setItalic(true);
-    m_grid->SetCellFont(row, nameColumn, boldItalic);
-    m_grid->SetCellColor(row, nameColumn, Theme::Green);
-}
-
-void FoundList::MarkSelected(Long contactID, bool selected)
-{
-    if (ShowsProperties() || Count() == 0)
-        return;
-    const int row = m_grid->FindRow(contactID);
-    if (row == 0 || !m_grid->RowVisible(row))
-        return;
-    MarkRow(row, selected);
-    // Bold letters need more room.
-    m_grid->AutoWidthColumn(nameColumn);
-}
-
-void FoundList::RedrawContact(const Contact& contact)
-{
-    if (ShowsProperties())
-        return;
-    for (int row = 1; row <= m_grid->Rows(); ++row) {
-        if (m_grid->RowItemData(row) == contact.RecID && m_grid->RowVisible(row))
-            AddContactToFoundGrid(row, contact);
-    }
-}
-
-void FoundList::RemoveRowsOf(SearchMode mode, const std::vector<Long>& ids)
-{
-    if (m_criteria.Mode() != mode)
-        return;
-    const std::unordered_set<Long> gone(ids.begin(), ids.end());
-    std::vector<int> rows;
-    for (int row = 1; row <= m_grid->Rows(); ++row) {
-        if (m_grid->RowVisible(row) && gone.contains(m_grid->RowItemData(row)))
-            rows.push_back(row);
-    }
-    m_grid->RemoveRows(rows);
-}
-
-void FoundList::RemoveContacts(const std::vector<Long>& contactIDs)
-{
-    RemoveRowsOf(SearchMode::Contacts, contactIDs);
-}
-
-void FoundList::RemoveProperties(const std::vector<Long>& propertyIDs)
-{
-    RemoveRowsOf(SearchMode::Properties, propertyIDs);
 }

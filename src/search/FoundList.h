@@ -58,6 +58,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    static constexpr int NameColumn = 1;
+
     // FoundList.cpp: the rows and the count
     void BuildLayout();
     [[nodiscard]] bool ShowsProperties() const;
@@ -70,10 +72,6 @@ private:
     void AddBogusContactToFoundGrid();
     void AddBogusPropToFoundList();
     void AddSpacer(const std::vector<int>& columns);
-    void MarkRow(int row, bool selected);
-    /// The records of the rows that `wanted(row)` holds for, without the spacer.
-    [[nodiscard]] std::vector<Long> Records(SearchMode mode, const std::function<bool(int row)>& wanted) const;
-    void RemoveRowsOf(SearchMode mode, const std::vector<Long>& ids);
     /// The rows found, without the spacer.
     [[nodiscard]] int Count() const;
     [[nodiscard]] int FirstVisibleRow() const;
@@ -82,6 +80,12 @@ private:
     void ShowFoundMenu(bool shown);
     void HideFoundMenus();
     void ShowHeading(const QString& text, const QColor& color);
+
+    // FoundListFace.cpp: the rows, as others see them
+    void MarkRow(int row, bool selected);
+    /// The records of the rows that `wanted(row)` holds for, without the spacer.
+    [[nodiscard]] std::vector<Long> Records(SearchMode mode, const std::function<bool(int row)>& wanted) const;
+    void RemoveRowsOf(SearchMode mode, const std::vector<Long>& ids);
 
     // FoundMenus.cpp: the mouse, the keys and the menus
     void ConnectGrid();

@@ -18,6 +18,8 @@ private Q_SLOTS:
     void HeadersSortAndTheSpacerCountsNowhere();
     void CaptionsNameTheRow_data();
     void CaptionsNameTheRow();
+    void AnAmpersandIsShownAsOne();
+    void APressOutsideTheHighlightKeepsIt();
     void NothingPopsUpOverTheSpacer();
     void SelectAndUnselectFollowTheRows();
     void RemovingRowsLeavesTheCount();
@@ -117,6 +119,35 @@ void tst_FoundList::CaptionsNameTheRow()
     QCOMPARE(desk.Person.LastStatus(), properties ? u"Property Search"_s : u"Contact search"_s);
     if (properties && row > 0)
         QCOMPARE(curPropertyID, row);
+}
+
+void tst_FoundList::AnAmpersandIsShownAsOne()
+{
+    SearchDesk desk;
+    ContactAt(2)->LastName = u"Ray & Son"_s;
+    (*ContactAt(1)->Properties.Find(2))->Addr1 = u"Elm & 2nd"_s;
+    desk.Search();
+    QCOMPARE(PopUp(desk, 2, "mnuHilitedContacts").at(1), u"Delete Bob M Ray && Son"_s);
+    desk.Properties();
+    desk.Search();
+    QCOMPARE(PopUp(desk, 2, "mnuHilitedProperties").at(0), u"Delete the property located at Elm && 2nd"_s);
+}
+
+void tst_FoundList::APressOutsideTheHighlightKeepsIt()
+{
+    SearchDesk desk;
+    desk.Search();
+    Grid& found = desk.Found();
+    found.ClearHighlight();
+    found.SetRowSelected(1, true);
+    found.SetRowSelected(2, true);
+    QCOMPARE(PopUp(desk, 3, "mnuHilitedContacts").at(1), u"Delete the Highlighted Contacts"_s);
+    QCOMPARE(Face<FoundFace>::Get()->HighlightedContacts(), (std::vector<Long>{1, 2}));
+    // One highlighted row alone gives way to the one that was pressed.
+    found.ClearHighlight();
+    found.SetRowSelected(1, true);
+    QCOMPARE(PopUp(desk, 3, "mnuHilitedContacts").at(1), u"Delete Cy Day"_s);
+    QCOMPARE(Face<FoundFace>::Get()->HighlightedContacts(), (std::vector<Long>{3}));
 }
 
 void tst_FoundList::NothingPopsUpOverTheSpacer()

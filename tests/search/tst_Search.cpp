@@ -28,6 +28,7 @@ private Q_SLOTS:
     void NoContactAtAll();
     void SelectedContactsStandOut();
     void PropertiesAreFound();
+    void PropertiesAreFoundByCaseAndByAllRows();
     void ARowThatFailsKeepsWhatItHad();
     void APropertySearchClearsTheLastOne();
     void ASearchByKeysAlone();
@@ -272,6 +273,25 @@ void tst_Search::PropertiesAreFound()
     desk.Choose("optAndOr_0");
     desk.Search();
     QCOMPARE(desk.Heading(), u"No properties found"_s);
+}
+
+void tst_Search::PropertiesAreFoundByCaseAndByAllRows()
+{
+    SearchDesk desk;
+    desk.Properties();
+    desk.SetCriterion(3, u"elm"_s);
+    desk.SetCriterion(28, u"Yes"_s);
+    desk.Search();
+    QCOMPARE(desk.Texts(u"Address1"), (QStringList{u"1 Elm St"_s, u"2 Elm St"_s}));
+    desk.Choose("optAndOr_0");
+    desk.Search();
+    QCOMPARE(desk.Texts(u"Address1"), QStringList{u"1 Elm St"_s});
+    Control<QCheckBox>(desk.Main(), u"chkCase"_s).setChecked(true);
+    desk.Search();
+    QCOMPARE(desk.Heading(), u"No properties found"_s);
+    desk.SetCriterion(3, u"Elm"_s);
+    desk.Search();
+    QCOMPARE(desk.Heading(), u"1 property found"_s);
 }
 
 void tst_Search::ARowThatFailsKeepsWhatItHad()
