@@ -167,20 +167,25 @@ void frmNotes::cmdButton_Click(int index)
     });
 }
 
-void frmNotes::Save()
+bool frmNotes::Save()
 {
+    bool written = false;
     if (m_ofProperty) {
         PropDetail& property = *CurProperty();
         property.Notes = Text();
-        property.UpdateDBNotes();
+        written = property.UpdateDBNotes();
     } else {
         if (!curContact)
             throw RunTimeError(ErrorNumber::ObjectNotSet);
         curContact->Notes = Text();
-        curContact->UpdateDB(curContact->RecID);
+        written = curContact->UpdateDB(curContact->RecID);
     }
+    // A refused write has been reported: the text is still to be saved.
+    if (!written)
+        return false;
     ShoWait(Saved);
     m_dirty = false;
+    return true;
 }
 
 bool frmNotes::MayLeave()
@@ -190,8 +195,7 @@ bool frmNotes::MayLeave()
     switch (MsgBox(u"Do you want me to save the changes you have made?"_s, Buttons::YesNoCancel, Icon::Question,
                    u"You Have Made some Modifications"_s)) {
     case Answer::Yes:
-        Save();
-        return true;
+        return Save();
     case Answer::No:
         ShoWait(u"Notes Not Saved"_s);
         return true;

@@ -36,7 +36,8 @@ private:
     void picStamp_Click();
     void DateStamp();
     void cmdButton_Click(int index);
-    void Save();
+    /// False after a refused write.
+    bool Save();
     /// Asks about changes that are not saved; false where the person wants to stay.
     [[nodiscard]] bool MayLeave();
 
