@@ -42,10 +42,7 @@ void frmDialog::cmdButton_Click(int index)
 
 bool frmDialog::KeyPreview(QKeyEvent* event)
 {
-    if (event->type() != QEvent::KeyPress || (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter))
-        return false;
-    cmdButton_Click(Ok);
-    return true;
+    return EnterIsOk(*event, [this] { cmdButton_Click(Ok); });
 }
 
 void frmDialog::EscapePressed()
