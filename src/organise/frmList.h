@@ -9,6 +9,7 @@ class Category;
 class Grid;
 class QAction;
 class QMenu;
+class QModelIndex;
 
 /// The list of the contacts of one subcategory. It stands beside the main window, and is brought up to date by explicit
 /// calls.
@@ -67,15 +68,16 @@ private:
     void GridList_MouseUp(Qt::MouseButton button, QPoint position);
     void GridList_DblClick(int row, int column);
     void GridList_KeyDown(int code);
-    /// The row under a global position, 0 where there is none.
-    [[nodiscard]] int RowUnder(QPoint position) const;
-    void PopUpMenu(QPoint position);
+    void GridList_MenuKey(QPoint position);
+    /// The cell under a global position; an invalid one where there is none.
+    [[nodiscard]] QModelIndex CellUnder(QPoint position) const;
+    /// The popup of a cell of the list.
+    void PopUpMenu(int row, int column, QPoint position);
     void mnuContacts_Click();
     void ShowMenuForOne();
     void ShowMenuForMany(qsizetype count);
     void ShowPropertyCaption();
     [[nodiscard]] QAction& Entry(const char* name) const;
-    void SelectHilited(bool select);
 
     void mnuNew_Click();
     void mnuModify_Click();

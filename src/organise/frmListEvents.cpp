@@ -60,6 +60,7 @@ void frmList::ConnectGrid()
     connect(m_grid, &Grid::SelectionChange, this, &frmList::GridList_SelectionChange);
     connect(m_grid, &Grid::MouseDown, this, &frmList::GridList_MouseDown);
     connect(m_grid, &Grid::MouseUp, this, &frmList::GridList_MouseUp);
+    connect(m_grid, &Grid::MenuKey, this, &frmList::GridList_MenuKey);
     connect(m_grid, &Grid::DblClick, this, &frmList::GridList_DblClick);
     connect(m_grid, &Grid::KeyDown, this, &frmList::GridList_KeyDown);
     connect(m_grid, &Grid::ColumnClick, this, &frmList::GridList_ColumnClick);
@@ -111,8 +112,10 @@ void frmList::GridList_MouseDown()
 void frmList::GridList_MouseUp(Qt::MouseButton button, QPoint position)
 {
     Trap(u"frmList GridList_MouseUp Error #"_s, Icon::Information, [&] {
+        const QModelIndex under = CellUnder(position);
         if (button == Qt::RightButton) {
-            PopUpMenu(position);
+            PopUpMenu(under.isValid() ? under.row() + 1 : SelectedRow(),
+                      under.isValid() ? under.column() + 1 : m_grid->SelectedCol(), position);
             return;
         }
         ShowPropertyCaption();
@@ -120,7 +123,7 @@ void frmList::GridList_MouseUp(Qt::MouseButton button, QPoint position)
         const int column = m_grid->SelectedCol();
         if (Rows() == 0 || column == 0)
             return;
-        if (RowUnder(position) > 0 && m_grid->Column(column).Key == "Checked"_L1) {
+        if (under.isValid() && m_grid->Column(column).Key == "Checked"_L1) {
             if (curContact && curContact->Selected)
                 UnSelectCurContact();
             else
@@ -130,16 +133,19 @@ void frmList::GridList_MouseUp(Qt::MouseButton button, QPoint position)
     });
 }
 
-int frmList::RowUnder(QPoint position) const
+void frmList::GridList_MenuKey(QPoint position)
 {
-    return m_grid->indexAt(m_grid->viewport()->mapFromGlobal(position)).row() + 1;
+    Trap(u"frmList GridList_MouseUp Error #"_s, Icon::Information,
+         [&] { PopUpMenu(SelectedRow(), m_grid->SelectedCol(), position); });
 }
 
-void frmList::PopUpMenu(QPoint position)
+QModelIndex frmList::CellUnder(QPoint position) const
 {
-    const QModelIndex under = m_grid->indexAt(m_grid->viewport()->mapFromGlobal(position));
-    const int row = under.isValid() ? under.row() + 1 : SelectedRow();
-    const int column = under.isValid() ? under.column() + 1 : m_grid->SelectedCol();
+    return m_grid->indexAt(m_grid->viewport()->mapFromGlobal(position));
+}
+
+void frmList::PopUpMenu(int row, int column, QPoint position)
+{
     if (row > 0 && gContacts.Exists(m_grid->RowItemData(row)))
         curContact = ContactAt(m_grid->RowItemData(row));
     const bool onProperties = column > 0 && m_grid->Column(column).Key == "Prop"_L1;
@@ -262,26 +268,14 @@ void frmList::mnuModify_Click()
     });
 }
 
-void frmList::SelectHilited(bool select)
-{
-    const HourGlass hourGlass;
-    for (const Long id : Highlighted()) {
-        curContact = ContactAt(id);
-        if (select)
-            SelectCurContact();
-        else
-            UnSelectCurContact();
-    }
-}
-
 void frmList::mnuSelect_Click()
 {
-    Trap(u"frmList mnuSelect_Click Error #"_s, Icon::Information, [this] { SelectHilited(true); });
+    Trap(u"frmList mnuSelect_Click Error #"_s, Icon::Information, [this] { SelectContacts(Highlighted(), true); });
 }
 
 void frmList::mnuUnselect_Click()
 {
-    Trap(u"frmList mnuUnselect_Click Error #"_s, Icon::Information, [this] { SelectHilited(false); });
+    Trap(u"frmList mnuUnselect_Click Error #"_s, Icon::Information, [this] { SelectContacts(Highlighted(), false); });
 }
 
 void frmList::mnuDelete_Click()

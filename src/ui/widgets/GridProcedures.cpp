@@ -1,6 +1,7 @@
 // The procedures that all lists share; declared at the end of Grid.h.
 #include "core/Dates.h"
 #include "ui/widgets/Grid.h"
+#include "ui/widgets/Theme.h"
 
 #include <unordered_set>
 
@@ -27,6 +28,20 @@ bool AnySelectedCol(int row, const Grid& grid)
         if (grid.CellSelected(row, column))
             return true;
     return false;
+}
+
+void MarkCell(Grid& grid, int row, int column, bool selected)
+{
+    if (!selected) {
+        grid.ResetCellFont(row, column);
+        grid.SetCellColor(row, column, QColor());
+        return;
+    }
+    QFont boldItalic = grid.font();
+    boldItalic.setBold(true);
+    boldItalic.setItalic(true);
+    grid.SetCellFont(row, column, boldItalic);
+    grid.SetCellColor(row, column, Theme::Green);
 }
 
 void SortGrid(Grid& grid, int column)
