@@ -198,6 +198,8 @@ int AddGridRow(Grid& grid, const QString& text, Long itemData = 0);
 void RemoveRowsOf(Grid& grid, const std::vector<Long>& itemData);
 /// Whether any cell of the row is highlighted.
 [[nodiscard]] bool AnySelectedCol(int row, const Grid& grid);
+/// The item data of those rows, from top to bottom.
+[[nodiscard]] std::vector<Long> HighlightedData(const Grid& grid);
 /// Shows by the look of a cell whether the row's contact is Selected: bold, italic and green, or the grid's own.
 void MarkCell(Grid& grid, int row, int column, bool selected);
 /// The sort of a click on a column header: by date where the column's first filled cell is a date, otherwise by the
