@@ -131,6 +131,14 @@ bool Form::EnterIsOk(const QKeyEvent& event, const std::function<void()>& ok)
     return true;
 }
 
+int Form::TitleWidth() const
+{
+    constexpr int barRoom = 140; // what a title bar needs beside its text
+    constexpr int screenEdge = 40;
+    return std::min(fontMetrics().horizontalAdvance(windowTitle()) + barRoom,
+                    screen()->availableSize().width() - screenEdge);
+}
+
 bool Form::event(QEvent* event)
 {
     // Asked again when the events have settled: of two windows shown at once the first is active for a moment only.

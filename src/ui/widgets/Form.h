@@ -54,6 +54,9 @@ protected:
     /// was still held down when the window came and has answered what was there before.
     [[nodiscard]] static bool EnterIsOk(const QKeyEvent& event, const std::function<void()>& ok);
 
+    /// The width in which the title is not cut, or as much of it as the screen has.
+    [[nodiscard]] int TitleWidth() const;
+
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
