@@ -74,7 +74,7 @@ AlertPanels::AlertPanels(frmMain& window)
     , m_popupPanel(m_current)
 {
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(8, 8, 8, 8);
+    layout->setContentsMargins(Theme::Spacing, Theme::Spacing, Theme::Spacing, Theme::Spacing);
     auto* splitter = new QSplitter(Qt::Vertical, this);
     splitter->setChildrenCollapsible(false);
     layout->addWidget(splitter);

@@ -12,6 +12,7 @@
 #include "model/faces.h"
 #include "model/Main.h"
 #include "ui/widgets/HoverButtonArray.h"
+#include "ui/widgets/Theme.h"
 
 #include <QBoxLayout>
 
@@ -29,8 +30,8 @@ QString NewCaption()
 frmContact::frmContact() : Form(u"frmContact"_s)
 {
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(8, 8, 8, 8);
-    layout->setSpacing(8);
+    layout->setContentsMargins(Theme::Spacing, Theme::Spacing, Theme::Spacing, Theme::Spacing);
+    layout->setSpacing(Theme::Spacing);
     m_sheet = new SheetEditor(ContactRows(), this);
     m_sheet->SetStartRow([this](int curRow) { return StartRow(curRow); });
     layout->addWidget(m_sheet, 1);

@@ -52,7 +52,7 @@ Rolodex::Rolodex() : m_letters(new QListWidget(this)), m_grid(new Grid(this))
     m_grid->SetHeaderVisible(false);
 
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(8, 8, 8, 8);
+    layout->setContentsMargins(Theme::Spacing, Theme::Spacing, Theme::Spacing, Theme::Spacing);
     layout->setSpacing(Theme::Spacing);
     layout->addWidget(m_letters);
     layout->addWidget(m_grid);
