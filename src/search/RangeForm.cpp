@@ -108,12 +108,7 @@ void RangeForm::AnswerWith(const QString& answer)
 
 bool RangeForm::KeyPreview(QKeyEvent* event)
 {
-    if (event->type() != QEvent::KeyPress || (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter))
-        return false;
-    // An Enter that was held down when the window came has answered what was there before.
-    if (!event->isAutoRepeat())
-        cmdbutton_Click(Ok);
-    return true;
+    return EnterIsOk(*event, [this] { cmdbutton_Click(Ok); });
 }
 
 void RangeForm::EscapePressed()
