@@ -4,6 +4,7 @@
 #include "ui/widgets/PlainText.h"
 
 #include <memory>
+#include <optional>
 
 class Alert;
 class HoverButtonArray;
@@ -45,7 +46,6 @@ private:
     // The fields.
     void ShowAlert(const Alert& alert);
     void ClearFields();
-    /// The note in the box; one that was not touched is given back as it came.
 
     // The buttons.
     void cmdButton_Click(int index);
@@ -63,6 +63,5 @@ private:
     HoverButtonArray* m_buttons = nullptr;
     bool m_activated = false;
     bool m_editing = false;
-    /// The note as it was shown, and the same as the box gave it back unchanged.
     std::optional<StoredText> m_note;
 };

@@ -2,11 +2,9 @@
 
 #include "core/Convert.h"
 #include "core/Trap.h"
-#include "model/Contact.h"
 #include "model/Main.h"
 #include "model/PropDetail.h"
 #include "search/CriteriaPanel.h"
-#include "search/FoundColumns.h"
 #include "ui/frame/frmMain.h"
 #include "ui/frame/Menus.h"
 #include "ui/widgets/Grid.h"
@@ -17,7 +15,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QVBoxLayout>
-#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -31,7 +28,7 @@ constexpr QColor headingGround(0x11, 0x16, 0x1D);
 } // namespace
 
 FoundList::FoundList(frmMain& window, const CriteriaPanel& criteria)
-    : m_window(window), m_criteria(criteria), m_lblFound(new QLabel(this)), m_grid(new Grid(this))
+    : m_window(window), m_criteria(criteria), m_lblFound(new QLabel(this)), m_grid(new Grid(this)), m_rows(*m_grid)
 {
     m_grid->setObjectName(u"GridFound"_s);
     m_grid->setAccessibleName(u"Search Results"_s);
@@ -41,8 +38,6 @@ FoundList::FoundList(frmMain& window, const CriteriaPanel& criteria)
     ConnectGrid();
     PlugMenus();
 }
-
-FoundList::~FoundList() = default;
 
 void FoundList::BuildLayout()
 {
@@ -76,125 +71,36 @@ bool FoundList::ShowsProperties() const
     return m_criteria.Mode() == SearchMode::Properties;
 }
 
-// The columns.
-
-void FoundList::LoadContactFoundCols()
-{
-    Trap(u"frmMain LoadContactFoundCols Error #"_s, Icon::Critical,
-         [this] { MakeColumns(FoundContactColumns(), 1, u"Name"); });
-}
-
-void FoundList::LoadPropFoundCols()
-{
-    Trap(u"frmMain LoadPropFoundCols Error #"_s, Icon::Critical,
-         [this] { MakeColumns(FoundPropertyColumns(), 2, u"ContactName"); });
-}
-
-void FoundList::MakeColumns(const std::vector<GridColumn>& columns, int known, QStringView key)
-{
-    if (m_grid->Columns() > 0 && m_grid->Column(known).Key != key)
-        m_grid->ClearWithColumns();
-    if (m_grid->Columns() > 0)
-        return;
-    for (const GridColumn& column : columns)
-        m_grid->AddColumn(column);
-}
-
 // A search.
 
 void FoundList::Begin()
 {
     HideFoundMenus();
     m_lblFound->clear();
-    if (ShowsProperties()) {
-        LoadPropFoundCols();
-        m_texts = std::make_unique<FoundPropertyTexts>();
-    } else {
-        LoadContactFoundCols();
-    }
-    m_grid->Clear();
+    m_rows.Begin(m_criteria.Mode());
     m_grid->SetRedraw(false);
 }
 
 void FoundList::Take(const Contact& contact)
 {
-    AddContactToFoundGrid(m_grid->AddRow(), contact);
+    m_rows.AddContactToFoundGrid(m_grid->AddRow(), contact);
 }
 
 void FoundList::Take(const PropDetail& property)
 {
-    AddPropToFoundGrid(m_grid->AddRow(property.RecID), property);
+    m_rows.AddPropToFoundGrid(m_grid->AddRow(property.RecID), property);
 }
 
 void FoundList::End()
 {
-    m_texts.reset();
-    if (ShowsProperties()) {
-        AddBogusPropToFoundList();
-    } else {
-        // The contact that was found last is the selected one.
-        if (m_grid->Rows() > 0)
-            m_grid->SetSelectedRow(m_grid->Rows());
-        AddBogusContactToFoundGrid();
-    }
+    // The contact that was found last is the selected one.
+    if (!ShowsProperties() && m_grid->Rows() > 0)
+        m_grid->SetSelectedRow(m_grid->Rows());
+    m_rows.End();
     m_grid->SetRedraw(true);
     if (m_grid->SelectedRow() > 0)
-        m_grid->EnsureVisible(m_grid->SelectedRow(), NameColumn);
+        m_grid->EnsureVisible(m_grid->SelectedRow(), FoundRows::NameColumn);
     ShowCountAndTakeFirst();
-}
-
-void FoundList::AddContactToFoundGrid(int row, const Contact& contact)
-{
-    Trap(u"frmMain AddContactToFoundGrid Error #"_s, Icon::Critical, [&] {
-        for (int column = 1; column <= m_grid->Columns(); ++column) {
-            m_grid->SetCellText(row, column, FoundContactText(contact, column));
-            m_grid->AutoWidthColumn(column);
-        }
-        if (contact.Selected)
-            MarkRow(row, true);
-        m_grid->SetRowItemData(row, contact.RecID);
-    });
-}
-
-void FoundList::AddPropToFoundGrid(int row, const PropDetail& property)
-{
-    Trap(u"frmMain AddPropToFoundGrid Error #"_s, Icon::Critical, [&] {
-        for (const int column : FoundPropertyFilling()) {
-            m_grid->SetCellText(row, column, m_texts->Text(property, column));
-            m_grid->AutoWidthColumn(column);
-        }
-        m_grid->SetRowItemData(row, property.RecID);
-    });
-}
-
-void FoundList::AddBogusContactToFoundGrid()
-{
-    Trap(u"frmMain AddBogusContact Error #"_s, Icon::Critical, [this] {
-        std::vector<int> columns(static_cast<size_t>(m_grid->Columns()));
-        std::iota(columns.begin(), columns.end(), 1);
-        AddSpacer(columns);
-    });
-}
-
-void FoundList::AddBogusPropToFoundList()
-{
-    Trap(u"frmMain AddBogusPropToFoundList Error #"_s, Icon::Critical, [this] {
-        std::vector<int> columns = FoundPropertyFilling();
-        std::erase_if(columns, [this](int column) { return !m_grid->Column(column).Visible; });
-        AddSpacer(columns);
-    });
-}
-
-void FoundList::AddSpacer(const std::vector<int>& columns)
-{
-    constexpr int blanks = 25;
-    const QString wide = u'.' + QString(blanks, u' ') + u'.';
-    const int row = m_grid->AddRow();
-    for (const int column : columns) {
-        m_grid->SetCellText(row, column, wide);
-        m_grid->AutoWidthColumn(column);
-    }
-    m_grid->SetRowVisible(row, false);
 }
 
 void FoundList::Clear()

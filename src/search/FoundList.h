@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/faces.h"
+#include "search/FoundRows.h"
 
 #include <QWidget>
 #include <functional>
@@ -8,11 +9,9 @@
 
 class CriteriaPanel;
 class frmMain;
-class FoundPropertyTexts;
 class Grid;
 class PropDetail;
 class QLabel;
-struct GridColumn;
 enum class SearchMode;
 
 /// The list that a search fills, with its count and the menus of what can be done with what was found. It holds copies:
@@ -28,7 +27,6 @@ class FoundList : public QWidget, public FoundFace
 public:
     /// `criteria` tells the mode, and outlives this.
     FoundList(frmMain& window, const CriteriaPanel& criteria);
-    ~FoundList() override;
 
     /// A search begins: its columns, no rows, and no count.
     void Begin();
@@ -53,25 +51,10 @@ public:
     /// Changes nothing of what is current: whoever calls may have a record in hand.
     void ShowHowManyFound() override;
 
-protected:
-    /// The key that asks for the popup.
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
-    static constexpr int NameColumn = 1;
-
-    // FoundList.cpp: the rows and the count
+    // FoundList.cpp: the layout, the search and the count
     void BuildLayout();
     [[nodiscard]] bool ShowsProperties() const;
-    void LoadContactFoundCols();
-    void LoadPropFoundCols();
-    /// Makes the columns, unless the column `known` has this key already.
-    void MakeColumns(const std::vector<GridColumn>& columns, int known, QStringView key);
-    void AddContactToFoundGrid(int row, const Contact& contact);
-    void AddPropToFoundGrid(int row, const PropDetail& property);
-    void AddBogusContactToFoundGrid();
-    void AddBogusPropToFoundList();
-    void AddSpacer(const std::vector<int>& columns);
     /// The rows found, without the spacer.
     [[nodiscard]] int Count() const;
     [[nodiscard]] int FirstVisibleRow() const;
@@ -82,7 +65,6 @@ private:
     void ShowHeading(const QString& text, const QColor& color);
 
     // FoundListFace.cpp: the rows, as others see them
-    void MarkRow(int row, bool selected);
     /// The records of the rows that `wanted(row)` holds for, without the spacer.
     [[nodiscard]] std::vector<Long> Records(SearchMode mode, const std::function<bool(int row)>& wanted) const;
     void RemoveRowsOf(SearchMode mode, const std::vector<Long>& ids);
@@ -119,6 +101,5 @@ private:
     const CriteriaPanel& m_criteria;
     QLabel* m_lblFound;
     Grid* m_grid;
-    /// Works out the cells of one search's properties.
-    std::unique_ptr<FoundPropertyTexts> m_texts;
+    FoundRows m_rows;
 };

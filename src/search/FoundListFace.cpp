@@ -39,11 +39,6 @@ std::vector<Long> FoundList::HighlightedProperties() const
     return Records(SearchMode::Properties, [this](int row) { return m_grid->CellSelected(row, 1); });
 }
 
-void FoundList::MarkRow(int row, bool selected)
-{
-    MarkCell(*m_grid, row, NameColumn, selected);
-}
-
 void FoundList::MarkSelected(Long contactID, bool selected)
 {
     if (ShowsProperties() || Count() == 0)
@@ -51,9 +46,9 @@ void FoundList::MarkSelected(Long contactID, bool selected)
     const int row = m_grid->FindRow(contactID);
     if (row == 0 || !m_grid->RowVisible(row))
         return;
-    MarkRow(row, selected);
+    m_rows.MarkContact(row, selected);
     // Bold letters need more room.
-    m_grid->AutoWidthColumn(NameColumn);
+    m_grid->AutoWidthColumn(FoundRows::NameColumn);
 }
 
 void FoundList::RedrawContact(const Contact& contact)
@@ -62,7 +57,7 @@ void FoundList::RedrawContact(const Contact& contact)
         return;
     for (int row = 1; row <= m_grid->Rows(); ++row) {
         if (m_grid->RowItemData(row) == contact.RecID && m_grid->RowVisible(row))
-            AddContactToFoundGrid(row, contact);
+            m_rows.AddContactToFoundGrid(row, contact);
     }
 }
 

@@ -13,7 +13,6 @@
 #include "ui/widgets/Grid.h"
 
 #include <QAction>
-#include <QContextMenuEvent>
 #include <QMenu>
 
 using namespace Qt::StringLiterals;
@@ -28,7 +27,6 @@ constexpr int contactIDColumn = 1;
 
 void FoundList::ConnectGrid()
 {
-    m_grid->installEventFilter(this);
     connect(m_grid, &Grid::ColumnClick, this, [this](int column) {
         Trap(u"frmMain GridFound_ColumnClick Error #"_s, Icon::Critical, [&] {
             if (m_grid->Rows() > 0)
@@ -38,6 +36,7 @@ void FoundList::ConnectGrid()
     connect(m_grid, &Grid::DblClick, this, &FoundList::ViewFoundItem);
     connect(m_grid, &Grid::KeyDown, this, &FoundList::GridFound_KeyDown);
     connect(m_grid, &Grid::MouseUp, this, &FoundList::GridFound_MouseUp);
+    connect(m_grid, &Grid::MenuKey, this, &FoundList::PopUpMenu);
     connect(m_grid, &Grid::MouseMove, this,
             [this] { m_grid->viewport()->setCursor(Count() > 0 ? Qt::PointingHandCursor : Qt::ArrowCursor); });
 }
@@ -55,18 +54,6 @@ void FoundList::PlugMenus()
     menus.Plug(u"mnuUnselectHilitedContacts"_s, this, [this] { SelectHilited(false); });
     menus.Plug(u"mnuDeleteHilitedProperties"_s, this, [this] { mnuDeleteHilitedProperties_Click(); });
     menus.Plug(u"mnuClearHilitedProperties"_s, this, [this] { ClearHilited(); });
-}
-
-bool FoundList::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched != m_grid || event->type() != QEvent::ContextMenu)
-        return QWidget::eventFilter(watched, event);
-    const auto* asked = static_cast<QContextMenuEvent*>(event);
-    if (asked->reason() == QContextMenuEvent::Keyboard && m_grid->SelectedRow() > 0) {
-        const QModelIndex first = m_grid->model()->index(m_grid->SelectedRow() - 1, m_grid->columnAt(0));
-        PopUpMenu(m_grid->viewport()->mapToGlobal(m_grid->visualRect(first).bottomLeft()));
-    }
-    return true;
 }
 
 void FoundList::GridFound_KeyDown(int code)
@@ -165,16 +152,7 @@ void FoundList::SelectHilited(bool select)
 {
     const QString tag = select ? u"frmMain mnuSelectHilitedContacts_Click Error #"_s
                                : u"frmMain mnuUnselectHilitedContacts_Click Error #"_s;
-    Trap(tag, Icon::Critical, [&] {
-        const HourGlass hourGlass;
-        for (const Long id : HighlightedContacts()) {
-            curContact = ContactAt(id);
-            if (select)
-                SelectCurContact();
-            else
-                UnSelectCurContact();
-        }
-    });
+    Trap(tag, Icon::Critical, [&] { SelectContacts(HighlightedContacts(), select); });
 }
 
 void FoundList::ClearHilited()
