@@ -118,9 +118,13 @@ void RangeForm::EscapePressed()
 
 bool RangeForm::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::FocusIn)
-        if (auto* entry = qobject_cast<QLineEdit*>(watched))
+    auto* entry = qobject_cast<QLineEdit*>(watched);
+    if (entry != nullptr && event->type() == QEvent::FocusIn) {
+        // Back from its own menu or from another window, the field is being worked in.
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
             EntryGotFocus(*entry);
+    }
     return Form::eventFilter(watched, event);
 }
 

@@ -46,6 +46,8 @@ void tst_Dialect::StatementsMeanWhatTheySay_data()
     QTest::newRow("numbers of every form")
         << u"Update T set A=-1.5,B=1E+07,C=.5"_s << u"Update T set A = - ? , B = ? , C = ?"_s
         << QStringList{u"1.5"_s, u"10000000"_s, u"0.5"_s};
+    QTest::newRow("nothing") << u"Insert into T (A,B) Values (Null,1)"_s
+                             << u"Insert into T ( A , B ) Values ( Null , ? )"_s << QStringList{u"1"_s};
 }
 
 void tst_Dialect::StatementsMeanWhatTheySay()
@@ -74,6 +76,15 @@ void tst_Dialect::FaultyStatementsAreRefused_data()
     QTest::newRow("a second row") << u"Insert into T (A,B) Values (1,'a'),(2,'b')"_s;
     QTest::newRow("a name that begins with a digit") << u"Update T set A=12abc"_s;
     QTest::newRow("a placeholder of the engine") << u"Update T set A=?"_s;
+    QTest::newRow("a text worked out") << u"Update T set A='rock 'and' roll' Where ID=1"_s;
+    QTest::newRow("a text compared") << u"Update T set A='a'='a' Where ID=1"_s;
+    QTest::newRow("a column set twice") << u"Update T set A='x', B='y', a='z'"_s;
+    QTest::newRow("a column for a value") << u"Update T set A=B Where ID=1"_s;
+    QTest::newRow("a sum in a row") << u"Insert into T (A) Values ('1' + '2')"_s;
+    QTest::newRow("no value") << u"Insert into T (A,B) Values (,1)"_s;
+    QTest::newRow("a condition that always holds") << u"Select ID from T Where A='x' or 'a'='a'"_s;
+    QTest::newRow("an alternative") << u"Select ID from T Where A='x' or B='y'"_s;
+    QTest::newRow("a second selection") << u"Select ID from T Where A='x' union select 1"_s;
     QTest::newRow("a NUL outside of a literal") << u"Delete from T"_s + QChar(u'\0') + u"Where ID=1"_s;
 }
 
