@@ -188,20 +188,21 @@ bool frmContact::SaveContact()
         for (int row = 1; row <= m_sheet->Rows(); ++row)
             SetRowText(*curContact, row, m_sheet->Value(row));
         // A refused write has been reported: the window stays with what was typed.
+        bool written = true;
         if (gEditMode == EditMode::ModifyContact) {
             if (auto* found = Face<FoundFace>::Get())
                 found->RedrawContact(*curContact);
-            if (!curContact->UpdateDB(curContact->RecID))
-                return false;
+            written = curContact->UpdateDB(curContact->RecID);
         } else if (!InsertContact()) {
             curContact = before;
             return false;
         }
+        // The list shows what memory holds.
         if (auto* list = Face<ContactListFace>::Get()) {
             list->UpdateContactGridCols();
             list->SetSelectedRowData(curContact->RecID);
         }
-        return true;
+        return written;
     });
 }
 

@@ -6,6 +6,7 @@
 #include "core/Trap.h"
 #include "editors/PhotoPreview.h"
 #include "editors/PropertyColumns.h"
+#include "editors/PropertyMenu.h"
 #include "model/Contact.h"
 #include "model/Main.h"
 #include "model/PropDescribe.h"
@@ -32,7 +33,11 @@ QString SavedText(PropertyField field, const QString& typed)
 
 } // namespace
 
-frmPropertyList::frmPropertyList() : Form(u"frmPropertyList"_s), m_grid(new Grid(this)), m_photo(new PhotoPreview(this))
+frmPropertyList::frmPropertyList()
+    : Form(u"frmPropertyList"_s)
+    , m_grid(new Grid(this))
+    , m_photo(new PhotoPreview(this))
+    , m_menu(new PropertyMenu(*this))
 {
     m_grid->setObjectName(u"GridPropList"_s);
     m_grid->setAccessibleName(u"Properties"_s);
@@ -48,8 +53,8 @@ frmPropertyList::frmPropertyList() : Form(u"frmPropertyList"_s), m_grid(new Grid
     side->addWidget(m_photo);
     side->addStretch();
     layout->addLayout(side);
-    BuildMenu();
-    bar->addMenu(m_menu);
+    PlugMenu();
+    bar->addMenu(&m_menu->Menu());
     ConnectGrid();
     resize(1000, 420);
     setMinimumSize(480, 240);

@@ -11,8 +11,7 @@
 struct PropertyFile;
 class Grid;
 class PhotoPreview;
-class QAction;
-class QMenu;
+class PropertyMenu;
 
 /// The properties of curContact, one a row: which of them is the default one, their photos and videos.
 class frmPropertyList : public Form, public PropertyListFace
@@ -70,11 +69,8 @@ private:
     void ShowIcon(int row, int column, bool shown);
     [[nodiscard]] bool HasProperty(int row) const;
 
-    // frmPropertyListEvents.cpp: keys, mouse and menus
-    void BuildMenu();
-    QAction* AddEntry(QMenu* menu, const char* name, const QString& caption, std::function<void()> click);
-    void AddFileMenu(QMenu* menu, const PropertyFile& file);
-    [[nodiscard]] QAction& Entry(const QString& name) const;
+    // frmPropertyListEvents.cpp: keys, mouse and what the menu does
+    void PlugMenu();
     void ConnectGrid();
     void GridPropList_ColumnClick(int column);
     void GridPropList_SelectionChange();
@@ -82,7 +78,6 @@ private:
     void GridPropList_DblClick(int row, int column);
     void mnuProperty_Click();
     [[nodiscard]] QString DescribeRow(int row) const;
-    void EnableFileMenu(const PropertyFile& file);
     void mnuModify_Click();
     void mnuNew_Click();
     void mnuNotes_Click();
@@ -104,6 +99,6 @@ private:
     Grid* m_grid;
     PhotoPreview* m_photo;
     int m_newRow = 0;
-    QMenu* m_menu = nullptr;
+    PropertyMenu* m_menu;
     CommonDialog m_dialog;
 };
