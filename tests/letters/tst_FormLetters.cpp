@@ -1,6 +1,7 @@
 #include "letters/Study.h"
 
 #include "letters/LetterFields.h"
+#include "support/Columns.h"
 
 using namespace Qt::StringLiterals;
 
@@ -111,9 +112,7 @@ private Q_SLOTS:
 
     void AnApostropheIsRefusedAndNothingIsLost_data()
     {
-        QTest::addColumn<int>("action");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("reply");
+        AddColumns<int, QString, QString>({"action", "text", "reply"});
         QTest::addRow("text of a new letter") << 1 << u"It's sold"_s << u"Sold"_s;
         QTest::addRow("name of a new letter") << 1 << u"Sold"_s << u"Ann's"_s;
         QTest::addRow("text of a letter") << 2 << u"It's sold"_s << QString();
@@ -187,18 +186,6 @@ private Q_SLOTS:
         QCOMPARE(FreshDatabase::Rows(u"Select FormText from FormLetters Where FormName='"_s + names[next] + u"'"_s),
                  QStringList{text});
         QCOMPARE(study.Enabled(), u"1256"_s);
-    }
-
-    void TheLastLetterLeavesTheStartText()
-    {
-        Study study;
-        for (int i = 0; i < 3; ++i) {
-            study.Person.Expect(QString(pleaseConfirm), u"Do you want me to delete "_s + study.Names()[0] + u"?"_s,
-                                Answer::Yes);
-            study.Press(5);
-        }
-        QCOMPARE(study.Letter().toPlainText(), QString(startText));
-        QCOMPARE(study.Enabled(), u"1"_s);
     }
 
     void AMarkerGoesInAtTheCaret()
@@ -302,34 +289,16 @@ private Q_SLOTS:
         QCOMPARE(study.Enabled(), u"1"_s);
     }
 
-    void AWayToTheContactsAndBackLeavesTheList()
-    {
-        Study study;
-        study.Forms().setCurrentRow(1);
-        study.Main().ShowTab(static_cast<int>(frmMain::Tab::Contacts));
-        study.Main().ShowTab(static_cast<int>(frmMain::Tab::Letters));
-        QCOMPARE(study.Forms().currentRow(), 1);
-    }
-
-    void TheSelectedLetterCannotBeDeselected_data()
-    {
-        QTest::addColumn<bool>("byKey");
-        QTest::addRow("mouse") << false;
-        QTest::addRow("key") << true;
-    }
-
     void TheSelectedLetterCannotBeDeselected()
     {
-        QFETCH(bool, byKey);
         Study study;
         QListWidget& forms = study.Forms();
         forms.setCurrentRow(1);
         forms.setFocus();
-        if (byKey)
-            QTest::keyClick(&forms, Qt::Key_Space, Qt::ControlModifier);
-        else
-            QTest::mouseClick(forms.viewport(), Qt::LeftButton, Qt::ControlModifier,
-                              forms.visualItemRect(forms.item(1)).center());
+        QTest::keyClick(&forms, Qt::Key_Space, Qt::ControlModifier);
+        QCOMPARE(forms.selectedItems().size(), 1);
+        QTest::mouseClick(forms.viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          forms.visualItemRect(forms.item(1)).center());
         QCOMPARE(forms.selectedItems().size(), 1);
         QCOMPARE(study.Letter().toPlainText(), u"To !<FormattedName>! at !<MailAddr1>! "_s);
         study.Press(2);
