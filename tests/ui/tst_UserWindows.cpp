@@ -22,7 +22,6 @@ private Q_SLOTS:
     void the_keys_of_a_box();
     void a_box_shows_plain_text_and_its_line_breaks();
     void a_long_text_stays_on_the_screen();
-    void asking_for_a_line_data();
     void asking_for_a_line();
     void the_limit_of_a_line_holds();
     void an_hourglass_counts_and_makes_way_for_a_box();
@@ -97,37 +96,30 @@ void tst_UserWindows::a_long_text_stays_on_the_screen()
     }
 }
 
-void tst_UserWindows::asking_for_a_line_data()
-{
-    AddColumns<QString, int, QString>({"button", "key", "reply"});
-    QTest::newRow("Ok") << u"cmdButton_2"_s << 0 << u"Buyers"_s;
-    QTest::newRow("Cancel") << u"cmdButton_1"_s << 0 << u""_s;
-    QTest::newRow("Enter") << u""_s << int(Qt::Key_Enter) << u"Buyers"_s;
-    QTest::newRow("Esc") << u""_s << int(Qt::Key_Escape) << u""_s;
-    QTest::newRow("the close box") << u""_s << 0 << u""_s;
-    QTest::newRow("Enter on Cancel is still Ok") << u"focus"_s << int(Qt::Key_Return) << u"Buyers"_s;
-}
-
 void tst_UserWindows::asking_for_a_line()
 {
-    QFETCH(QString, button);
-    QFETCH(int, key);
-    UserWindows user;
-    QString title;
-    const WhenFormOpens dialog(u"frmDialog"_s, [&](Form& form) {
-        title = form.windowTitle();
-        TypeText(form, u"Buyers"_s);
-        if (button == u"focus"_s)
-            Control<QWidget>(form, u"cmdButton_1"_s).setFocus();
-        if (key != 0)
-            TypeKey(form, static_cast<Qt::Key>(key));
-        else if (button.isEmpty())
-            form.close();
-        else
-            ClickOn(form, button);
-    });
-    QTEST(user.AskFor(u"New Category Name"_s, 0), "reply");
-    QCOMPARE(title, u"New Category Name"_s);
+    // By a button, by a key, by the close box, and by Enter on Cancel, which is still Ok.
+    for (const auto& [button, key, reply] :
+         {std::tuple(u"cmdButton_2"_s, 0, u"Buyers"_s), std::tuple(u"cmdButton_1"_s, 0, u""_s),
+          std::tuple(u""_s, int(Qt::Key_Enter), u"Buyers"_s), std::tuple(u""_s, int(Qt::Key_Escape), u""_s),
+          std::tuple(u""_s, 0, u""_s), std::tuple(u"focus"_s, int(Qt::Key_Return), u"Buyers"_s)}) {
+        UserWindows user;
+        QString title;
+        const WhenFormOpens dialog(u"frmDialog"_s, [&](Form& form) {
+            title = form.windowTitle();
+            TypeText(form, u"Buyers"_s);
+            if (button == u"focus"_s)
+                Control<QWidget>(form, u"cmdButton_1"_s).setFocus();
+            if (key != 0)
+                TypeKey(form, static_cast<Qt::Key>(key));
+            else if (button.isEmpty())
+                form.close();
+            else
+                ClickOn(form, button);
+        });
+        QCOMPARE(user.AskFor(u"New Category Name"_s, 0), reply);
+        QCOMPARE(title, u"New Category Name"_s);
+    }
 }
 
 void tst_UserWindows::the_limit_of_a_line_holds()
