@@ -1,6 +1,5 @@
 #include "organise/Desk.h"
 
-#include "support/Columns.h"
 #include "ui/widgets/Forms.h"
 
 #include <QLineEdit>
@@ -17,7 +16,6 @@ private Q_SLOTS:
     void TheMenuOfAnEmptyTreeOffersANewCategoryOnly();
     void ARefusedCategoryLeavesAGhostAndASecondOneTheReport();
     void ANewSubcategoryHangsUnderTheFirstNodeOfThatNumber();
-    void ARename_data();
     void ARename();
     void ACategoryMayTakeAnothersName();
     void ACategoryWithSubcategoriesStays();
@@ -116,36 +114,31 @@ void tst_CategoryTree::ANewSubcategoryHangsUnderTheFirstNodeOfThatNumber()
     QCOMPARE(CategoryAt(3)->Subs->size(), 1U);
 }
 
-void tst_CategoryTree::ARename_data()
-{
-    AddColumns<QString, QString, QString, bool>({"typed", "label", "status", "refused"});
-    QTest::newRow("another name") << u"First house"_s << u"First house"_s << u"Renamed"_s << false;
-    QTest::newRow("an apostrophe") << u"Friend's"_s << u"Friend's"_s << u"Renamed"_s << false;
-    QTest::newRow("a sister's name") << u"MOVING UP"_s << u"First home"_s << u"Rename Cancelled"_s << true;
-    QTest::newRow("nothing") << QString() << u"First home"_s << QString() << false;
-}
-
 void tst_CategoryTree::ARename()
 {
-    QFETCH(QString, typed);
-    QFETCH(QString, label);
-    QFETCH(bool, refused);
-    Desk desk;
-    desk.Click(u"S1"_s);
-    if (refused) {
-        desk.Person.Expect(u"Rename Cancelled"_s,
-                           u"I did not rename First home because I found\r\nanother subcategory named "_s + typed +
-                               u" in Buyers."_s);
+    // To another name, with an apostrophe, to a sister's name, and to nothing.
+    for (const auto& [typed, label, status, refused] :
+         {std::tuple(u"First house"_s, u"First house"_s, u"Renamed"_s, false),
+          std::tuple(u"Friend's"_s, u"Friend's"_s, u"Renamed"_s, false),
+          std::tuple(u"MOVING UP"_s, u"First home"_s, u"Rename Cancelled"_s, true),
+          std::tuple(QString(), u"First home"_s, QString(), false)}) {
+        Desk desk;
+        desk.Click(u"S1"_s);
+        if (refused) {
+            desk.Person.Expect(u"Rename Cancelled"_s,
+                               u"I did not rename First home because I found\r\nanother subcategory named "_s + typed +
+                                   u" in Buyers."_s);
+        }
+        desk.Entry(u"mnuCatRename"_s).trigger();
+        auto* editor = desk.View().findChild<QLineEdit*>();
+        QVERIFY(editor != nullptr);
+        editor->setText(typed);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTest::qWait(0); // the label takes its text behind the key
+        QCOMPARE(desk.Tree->SelectedText(), label);
+        QCOMPARE(desk.Person.LastStatus(), status);
+        QCOMPARE(FreshDatabase::Rows(u"Select Description from SubCategories Where ID=1"_s), QStringList{label});
     }
-    desk.Entry(u"mnuCatRename"_s).trigger();
-    auto* editor = desk.View().findChild<QLineEdit*>();
-    QVERIFY(editor != nullptr);
-    editor->setText(typed);
-    QTest::keyClick(editor, Qt::Key_Return);
-    QTest::qWait(0); // the label takes its text behind the key
-    QCOMPARE(desk.Tree->SelectedText(), label);
-    QTEST(desk.Person.LastStatus(), "status");
-    QCOMPARE(FreshDatabase::Rows(u"Select Description from SubCategories Where ID=1"_s), QStringList{label});
 }
 
 void tst_CategoryTree::ACategoryMayTakeAnothersName()
