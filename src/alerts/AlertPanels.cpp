@@ -16,7 +16,6 @@
 #include "ui/widgets/Theme.h"
 
 #include <QAction>
-#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
@@ -75,7 +74,7 @@ AlertPanels::AlertPanels(frmMain& window)
     , m_popupPanel(m_current)
 {
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(8, 8, 8, 8);
+    layout->setContentsMargins(Theme::Spacing, Theme::Spacing, Theme::Spacing, Theme::Spacing);
     auto* splitter = new QSplitter(Qt::Vertical, this);
     splitter->setChildrenCollapsible(false);
     layout->addWidget(splitter);
@@ -124,7 +123,8 @@ void AlertPanels::AddSection(const QString& heading, const QString& name, QLabel
 
 void AlertPanels::ConnectGrid(Grid& grid)
 {
-    grid.installEventFilter(this);
+    connect(&grid, &Grid::MenuKey, this,
+            [this, &grid](QPoint position) { Grid_MouseUp(grid, Qt::RightButton, position); });
     connect(&grid, &Grid::DblClick, this, [this, &grid] { mnuShowAlert_Click(grid); });
     connect(&grid, &Grid::KeyDown, this, [this, &grid](int code) { Grid_KeyDown(grid, code); });
     connect(&grid, &Grid::MouseUp, this,
@@ -292,18 +292,6 @@ void AlertPanels::Grid_KeyDown(Grid& panel, int code)
         mnuDeleteAlert_Click(panel);
     else if (code == Key::Enter)
         mnuShowAlert_Click(panel);
-}
-
-bool AlertPanels::eventFilter(QObject* watched, QEvent* event)
-{
-    auto* panel = qobject_cast<Grid*>(watched);
-    const bool asksForMenu = event->type() == QEvent::ContextMenu &&
-                             static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard;
-    if (panel == nullptr || !asksForMenu)
-        return QWidget::eventFilter(watched, event);
-    Grid_MouseUp(*panel, Qt::RightButton,
-                 panel->viewport()->mapToGlobal(panel->visualRect(panel->currentIndex()).bottomLeft()));
-    return true;
 }
 
 void AlertPanels::Grid_MouseUp(Grid& panel, Qt::MouseButton button, QPoint position)

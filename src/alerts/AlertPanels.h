@@ -32,10 +32,6 @@ public:
     void RemoveAlertFromGrid(Long alertID, bool isFuture) override;
     void RemoveAlerts(const std::vector<Long>& alertIDs) override;
 
-protected:
-    /// The key that asks for the popup.
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void AddSection(const QString& heading, const QString& name, QLabel& count, Grid& grid);
     void ConnectGrid(Grid& grid);

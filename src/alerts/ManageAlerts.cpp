@@ -2,7 +2,6 @@
 
 #include "alerts/frmAlertContacts.h"
 #include "alerts/frmAlerts.h"
-#include "core/Clock.h"
 #include "core/Convert.h"
 #include "core/Trap.h"
 #include "model/AddNewAlert.h"
@@ -31,16 +30,16 @@ bool ChooseContact(Long mode)
 
 bool AskDateAndNote()
 {
-    const QString date = AskForDate(u"New Alert Date for "_s + FormatName(), Clock::Today());
+    const QString date = AskForDate(u"New Alert Date for "_s + FormatName());
     if (date.isEmpty())
         return false;
-    gReturnValue = AskFor(u"New Alert Title"_s, 255);
-    if (gReturnValue.isEmpty()) {
+    const QString note = AskFor(u"New Alert Title"_s, 255);
+    if (note.isEmpty()) {
         MsgBox(u"I did not save this alert because\r\nyou did not enter any alert notes."_s, Buttons::Ok,
                Icon::Information, u"Alert not Saved"_s);
         return false;
     }
-    AddNewAlert(date, gReturnValue);
+    AddNewAlert(date, note);
     return true;
 }
 

@@ -2,7 +2,6 @@
 
 #include "alerts/AlertLook.h"
 #include "alerts/DeleteAlert.h"
-#include "core/Clock.h"
 #include "core/Dates.h"
 #include "core/FieldRules.h"
 #include "core/Trap.h"
@@ -14,7 +13,6 @@
 #include "ui/widgets/HoverButton.h"
 #include "ui/widgets/HoverButtonArray.h"
 #include "ui/widgets/Pictures.h"
-#include "ui/widgets/PlainText.h"
 #include "ui_frmAlerts.h"
 
 #include <QHeaderView>
@@ -49,6 +47,7 @@ void KeepPlace(QWidget* control)
 frmAlerts::frmAlerts() : Form(u"frmAlerts"_s), m_ui(std::make_unique<Ui::frmAlerts>())
 {
     m_ui->setupUi(this);
+    m_note.emplace(*m_ui->txtNotes);
     m_ui->Grid1->SetMultiSelect(false);
     m_ui->Grid1->horizontalHeader()->setStretchLastSection(true);
     connect(m_ui->Grid1, &Grid::SelectionChange, this, &frmAlerts::Grid1_SelectionChange);
@@ -207,27 +206,13 @@ void frmAlerts::EscapePressed()
 void frmAlerts::ShowAlert(const Alert& alert)
 {
     m_ui->lblDate->setText(AlertDateText(alert.AlertDate));
-    ShowNote(alert.AlertNote);
+    m_note->Show(alert.AlertNote);
 }
 
 void frmAlerts::ClearFields()
 {
     m_ui->lblDate->clear();
-    ShowNote({});
-}
-
-void frmAlerts::ShowNote(const QString& note)
-{
-    m_ui->txtNotes->setPlainText(note);
-    m_note = note;
-    m_noteAsTyped = PlainText(*m_ui->txtNotes);
-}
-
-QString frmAlerts::Note() const
-{
-    // Notes of other hands may break their lines otherwise.
-    const QString typed = PlainText(*m_ui->txtNotes);
-    return typed == m_noteAsTyped ? m_note : typed;
+    m_note->Show({});
 }
 
 // The buttons.
@@ -258,9 +243,7 @@ void frmAlerts::cmdButton_Click(int index)
 void frmAlerts::picCalendar_Click()
 {
     Trap(u"frmAlerts picCalendar_Click Error #"_s, Icon::Critical, [this] {
-        const std::optional<Date> shown = ParseDate(m_ui->lblDate->text());
-        const QString date =
-            AskForDate(u"Alert Date for "_s + FormatName(), shown ? ToDateTime(*shown).date() : Clock::Today());
+        const QString date = AskForDate(u"Alert Date for "_s + FormatName(), m_ui->lblDate->text());
         if (!date.isEmpty())
             m_ui->lblDate->setText(date);
     });
@@ -269,11 +252,11 @@ void frmAlerts::picCalendar_Click()
 void frmAlerts::NewClick()
 {
     Trap(u"frmAlerts NewClick Error #"_s, Icon::Critical, [this] {
-        const QString date = AskForDate(u"Alert Date for "_s + FormatName(), Clock::Today());
+        const QString date = AskForDate(u"Alert Date for "_s + FormatName());
         if (date.isEmpty())
             return;
         gAlertMode = AlertMode::New;
-        ShowNote({});
+        m_note->Show({});
         m_ui->lblDate->setText(date);
         SetEditing(true);
     });
@@ -317,7 +300,7 @@ void frmAlerts::SaveClick()
             MsgBox(u"Please check the Alert Date."_s, Buttons::Ok, Icon::Information, u"Invalid Alert Date"_s);
             return;
         }
-        const QString note = Note();
+        const QString note = m_note->Text();
         if (note.isEmpty()) {
             // The misspelling is meant.
             MsgBox(u"I did not save this alert because\r\nyou did not enter any Snotes."_s, Buttons::Ok,
@@ -346,7 +329,7 @@ void frmAlerts::SaveNew(const QString& note)
         panels->InsertAlertToGrid(*alert, IsAFutureDate(alert->AlertDate));
     ++curContact->NumberOfAlerts;
     ShowAlertIcon();
-    ShowNote(note);
+    m_note->Show(note);
 }
 
 void frmAlerts::SaveChange(const QString& note)
@@ -362,7 +345,7 @@ void frmAlerts::SaveChange(const QString& note)
         panels->InsertAlertToGrid(*alert, IsAFutureDate(alert->AlertDate));
     WriteRow(m_ui->Grid1->SelectedRow(), *alert);
     ShowAlertIcon();
-    ShowNote(note);
+    m_note->Show(note);
 }
 
 void frmAlerts::DeleteClick()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/widgets/Form.h"
+#include "ui/widgets/PlainText.h"
 
 #include <memory>
 
@@ -44,9 +45,7 @@ private:
     // The fields.
     void ShowAlert(const Alert& alert);
     void ClearFields();
-    void ShowNote(const QString& note);
     /// The note in the box; one that was not touched is given back as it came.
-    [[nodiscard]] QString Note() const;
 
     // The buttons.
     void cmdButton_Click(int index);
@@ -65,6 +64,5 @@ private:
     bool m_activated = false;
     bool m_editing = false;
     /// The note as it was shown, and the same as the box gave it back unchanged.
-    QString m_note;
-    QString m_noteAsTyped;
+    std::optional<StoredText> m_note;
 };

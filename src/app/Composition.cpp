@@ -16,7 +16,6 @@
 #include "transfer/ExportData.h"
 #include "transfer/ImportData.h"
 #include "ui/frame/Menus.h"
-#include "ui/widgets/UserWindows.h"
 
 using namespace Qt::StringLiterals;
 

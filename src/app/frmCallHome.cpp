@@ -3,6 +3,7 @@
 #include "app/FeedbackAddress.h"
 #include "core/Trap.h"
 #include "ui/widgets/Forms.h"
+#include "ui/widgets/Theme.h"
 
 #include <QFormLayout>
 #include <QLabel>
@@ -62,7 +63,7 @@ QVBoxLayout* NewPage(QWidget& page)
 {
     auto* layout = new QVBoxLayout(&page);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(8);
+    layout->setSpacing(Theme::Spacing);
     return layout;
 }
 
@@ -83,7 +84,7 @@ frmCallHome::frmCallHome(const QUrl& address, int mostMilliseconds)
     m_status->setObjectName(u"lblStatus"_s);
     m_status->setWordWrap(true);
     auto* layout = new QVBoxLayout(this);
-    layout->setSpacing(8);
+    layout->setSpacing(Theme::Spacing);
     layout->addWidget(m_pages, 1);
     layout->addWidget(m_status);
     layout->addWidget(MakeButtons());
@@ -114,7 +115,7 @@ QWidget* frmCallHome::MakeWhoPage()
         return line;
     };
     auto* form = new QFormLayout;
-    form->setSpacing(8);
+    form->setSpacing(Theme::Spacing);
     m_name = addLine(*form, u"txtName"_s, u"&Name:"_s, Draft().Name);
     m_name->setAccessibleName(u"Name"_s);
     m_email = addLine(*form, u"txtEmail"_s, u"&E-mail:"_s, Draft().Email);
@@ -151,7 +152,7 @@ QWidget* frmCallHome::MakeButtons()
     auto* bar = new QWidget;
     auto* layout = new QHBoxLayout(bar);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(8);
+    layout->setSpacing(Theme::Spacing);
     m_cancel = NewButton(u"cmdCancel"_s, u"Cancel"_s);
     m_back = NewButton(u"cmdBack"_s, u"&Back"_s);
     m_next = NewButton(u"cmdNext"_s, u"Ne&xt"_s);

@@ -9,6 +9,7 @@
 #include "model/Main.h"
 #include "organise/CategoryTree.h"
 #include "ui/widgets/Pictures.h"
+#include "ui/widgets/Theme.h"
 #include "ui/widgets/UserWindows.h"
 
 #include <QCoreApplication>
@@ -34,7 +35,7 @@ void frmSplash::BuildWindow()
     setWindowTitle(u"Orvantine"_s);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(40, 32, 40, 32);
-    layout->setSpacing(8);
+    layout->setSpacing(Theme::Spacing);
     const auto addLabel = [&](const QString& text, double scale, bool bold) {
         auto* label = new QLabel(text, this);
         QFont face = label->font();

@@ -72,7 +72,7 @@ QString ExponentText(const Decimal& number)
     return text + QString::number(std::abs(exponent)).rightJustified(2, u'0');
 }
 
-/// The text of a floating number that holds `significant` digits. Below 0.0001 the exponent form is a guess.
+/// The text of a floating number that holds `significant` digits. Below 0.0001 it takes the exponent form.
 QString FloatText(const Decimal& number, int significant)
 {
     const bool plain = number.IsZero() || (number.WholeDigits() > -4 && number.WholeDigits() <= significant);

@@ -183,7 +183,7 @@ private:
             PutNumber(m_behindHour ? minute : m_month, width);
             break;
         case u'y':
-            // Below the year 1000 the four digits are a guess.
+            // Four digits also below the year 1000.
             PutNumber(run > 2 ? m_year : m_year % 100, run > 2 ? 4 : 2);
             break;
         case u'h':

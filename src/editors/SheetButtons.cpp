@@ -2,6 +2,7 @@
 
 #include "ui/widgets/HoverButton.h"
 #include "ui/widgets/HoverButtonArray.h"
+#include "ui/widgets/Theme.h"
 
 #include <QBoxLayout>
 #include <QShortcut>
@@ -12,7 +13,7 @@ HoverButtonArray* AddSheetButtons(QWidget& window, QBoxLayout& layout)
 {
     using namespace SheetButton;
     auto* row = new QHBoxLayout;
-    row->setSpacing(8);
+    row->setSpacing(Theme::Spacing);
     row->addStretch();
     auto* buttons = new HoverButtonArray(window, *row,
                                          {{Cancel, u"Cancel"_s, u"Cancel"_s},

@@ -12,6 +12,7 @@
 #include "model/faces.h"
 #include "model/Main.h"
 #include "ui/widgets/HoverButtonArray.h"
+#include "ui/widgets/Theme.h"
 
 #include <QBoxLayout>
 
@@ -29,8 +30,8 @@ QString NewCaption()
 frmContact::frmContact() : Form(u"frmContact"_s)
 {
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(8, 8, 8, 8);
-    layout->setSpacing(8);
+    layout->setContentsMargins(Theme::Spacing, Theme::Spacing, Theme::Spacing, Theme::Spacing);
+    layout->setSpacing(Theme::Spacing);
     m_sheet = new SheetEditor(ContactRows(), this);
     m_sheet->SetStartRow([this](int curRow) { return StartRow(curRow); });
     layout->addWidget(m_sheet, 1);
@@ -179,18 +180,22 @@ bool frmContact::SaveContact()
                    Buttons::Ok, Icon::Information, u"Contact not Saved"_s);
             return false;
         }
+        const std::shared_ptr<Contact> before = curContact;
         if (gEditMode == EditMode::NewContact)
             MakeNewContact();
         if (!curContact)
             throw RunTimeError(ErrorNumber::ObjectNotSet);
         for (int row = 1; row <= m_sheet->Rows(); ++row)
             SetRowText(*curContact, row, m_sheet->Value(row));
-        if (gEditMode != EditMode::ModifyContact) {
-            InsertContact();
-        } else {
+        // A refused write has been reported: the window stays with what was typed.
+        if (gEditMode == EditMode::ModifyContact) {
             if (auto* found = Face<FoundFace>::Get())
                 found->RedrawContact(*curContact);
-            curContact->UpdateDB(curContact->RecID);
+            if (!curContact->UpdateDB(curContact->RecID))
+                return false;
+        } else if (!InsertContact()) {
+            curContact = before;
+            return false;
         }
         if (auto* list = Face<ContactListFace>::Get()) {
             list->UpdateContactGridCols();
@@ -213,13 +218,14 @@ bool frmContact::IsDuplicate() const
 
 void frmContact::MakeNewContact() const
 {
-    curContact = std::make_shared<Contact>();
     auto* tree = Face<TreeFace>::Get();
     // A category is selected: it holds no contact, and the row would be an orphan.
     if (tree == nullptr || tree->SelectedParentKey().isEmpty())
         throw RunTimeError(ErrorNumber::ObjectNotSet);
-    curContact->subCategoryID = CInt(static_cast<double>(GetKey(tree->SelectedKey())));
-    curContact->CategoryID = GetKey(tree->SelectedParentKey());
+    const auto made = std::make_shared<Contact>();
+    made->subCategoryID = CInt(static_cast<double>(GetKey(tree->SelectedKey())));
+    made->CategoryID = GetKey(tree->SelectedParentKey());
+    curContact = made;
     auto* list = Face<ContactListFace>::Get();
     if (list == nullptr || list->Rows() > 0)
         return;
@@ -228,9 +234,12 @@ void frmContact::MakeNewContact() const
     list->SelectLastRow();
 }
 
-void frmContact::InsertContact() const
+bool frmContact::InsertContact() const
 {
-    const Long id = curContact->AddToDB(curContact->subCategoryID);
+    bool written = false;
+    const Long id = curContact->AddToDB(curContact->subCategoryID, &written);
+    if (!written)
+        return false;
     curContact->RecID = id;
     // Where the read-back gave an older contact's ID, or a second row is left without one, this raises: the row is
     // written, and the person has read why it is not shown.
@@ -239,4 +248,5 @@ void frmContact::InsertContact() const
     ++CurrentSub()->ContactCount;
     if (auto* main = Face<MainFace>::Get())
         main->ShowStatus();
+    return true;
 }

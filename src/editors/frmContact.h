@@ -35,7 +35,8 @@ private:
     [[nodiscard]] bool SaveContact();
     [[nodiscard]] bool IsDuplicate() const;
     void MakeNewContact() const;
-    void InsertContact() const;
+    /// False after a refused write.
+    bool InsertContact() const;
 
     SheetEditor* m_sheet = nullptr;
     HoverButtonArray* m_buttons = nullptr;

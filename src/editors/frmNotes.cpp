@@ -10,7 +10,6 @@
 #include "ui/widgets/HoverButton.h"
 #include "ui/widgets/HoverButtonArray.h"
 #include "ui/widgets/Pictures.h"
-#include "ui/widgets/PlainText.h"
 #include "ui/widgets/ResizeScaler.h"
 #include "ui_frmNotes.h"
 
@@ -47,6 +46,7 @@ bool IsModifier(int key)
 frmNotes::frmNotes() : Form(u"frmNotes"_s), m_ui(std::make_unique<Ui::frmNotes>()), m_ofProperty(IsOfProperty())
 {
     m_ui->setupUi(this);
+    m_text.emplace(*m_ui->txtNotes);
     m_scaler = std::make_unique<ResizeScaler>(*this, std::vector<const QWidget*>{m_ui->txtNotes});
     // A small screen may shrink the window before its first resize is told.
     m_scaler->SaveSizes();
@@ -68,12 +68,12 @@ void frmNotes::Form_Load()
     Trap(u"frmNotes Form_Load Error #"_s, Icon::Critical, [this] {
         if (m_ofProperty) {
             setWindowTitle(u"Notes for "_s + PropDescribe());
-            ShowText(CurProperty()->Notes);
+            m_text->Show(CurProperty()->Notes);
         } else {
             setWindowTitle(FormatName() + u"'s Notes"_s);
             if (!curContact)
                 throw RunTimeError(ErrorNumber::ObjectNotSet);
-            ShowText(curContact->Notes);
+            m_text->Show(curContact->Notes);
         }
     });
 }
@@ -119,22 +119,6 @@ void frmNotes::FitCaptions()
     setMinimumSize(qCeil(width() * smallest), qCeil(height() * smallest));
 }
 
-// The text. A break is one character in the box, CR LF in the store.
-
-void frmNotes::ShowText(const QString& text)
-{
-    m_ui->txtNotes->setPlainText(text);
-    m_stored = text;
-    m_storedAsTyped = PlainText(*m_ui->txtNotes);
-}
-
-QString frmNotes::Text() const
-{
-    // Notes of other hands may break their lines otherwise; unchanged they go back as they came.
-    const QString typed = PlainText(*m_ui->txtNotes);
-    return typed == m_storedAsTyped ? m_stored : typed;
-}
-
 void frmNotes::picStamp_Click()
 {
     Trap(u"frmNotes picStamp_Click Error #"_s, Icon::Critical, [this] {
@@ -167,20 +151,25 @@ void frmNotes::cmdButton_Click(int index)
     });
 }
 
-void frmNotes::Save()
+bool frmNotes::Save()
 {
+    bool written = false;
     if (m_ofProperty) {
         PropDetail& property = *CurProperty();
-        property.Notes = Text();
-        property.UpdateDBNotes();
+        property.Notes = m_text->Text();
+        written = property.UpdateDBNotes();
     } else {
         if (!curContact)
             throw RunTimeError(ErrorNumber::ObjectNotSet);
-        curContact->Notes = Text();
-        curContact->UpdateDB(curContact->RecID);
+        curContact->Notes = m_text->Text();
+        written = curContact->UpdateDB(curContact->RecID);
     }
+    // A refused write has been reported: the text is still to be saved.
+    if (!written)
+        return false;
     ShoWait(Saved);
     m_dirty = false;
+    return true;
 }
 
 bool frmNotes::MayLeave()
@@ -190,8 +179,7 @@ bool frmNotes::MayLeave()
     switch (MsgBox(u"Do you want me to save the changes you have made?"_s, Buttons::YesNoCancel, Icon::Question,
                    u"You Have Made some Modifications"_s)) {
     case Answer::Yes:
-        Save();
-        return true;
+        return Save();
     case Answer::No:
         ShoWait(u"Notes Not Saved"_s);
         return true;

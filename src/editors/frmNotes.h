@@ -1,8 +1,10 @@
 #pragma once
 
 #include "ui/widgets/Form.h"
+#include "ui/widgets/PlainText.h"
 
 #include <memory>
+#include <optional>
 
 class HoverButtonArray;
 class ResizeScaler;
@@ -36,13 +38,12 @@ private:
     void picStamp_Click();
     void DateStamp();
     void cmdButton_Click(int index);
-    void Save();
+    /// False after a refused write.
+    bool Save();
     /// Asks about changes that are not saved; false where the person wants to stay.
     [[nodiscard]] bool MayLeave();
 
-    void ShowText(const QString& text);
     /// What the box holds, as the store keeps it.
-    [[nodiscard]] QString Text() const;
 
     std::unique_ptr<Ui::frmNotes> m_ui;
     std::unique_ptr<ResizeScaler> m_scaler;
@@ -50,6 +51,5 @@ private:
     bool m_ofProperty;
     bool m_dirty = false;
     /// The stored text, and the same as the box gave it back unchanged.
-    QString m_stored;
-    QString m_storedAsTyped;
+    std::optional<StoredText> m_text;
 };

@@ -1,7 +1,5 @@
 #include "editors/frmProperty.h"
 
-#include "core/Clock.h"
-#include "core/Dates.h"
 #include "core/Strings.h"
 #include "core/Trap.h"
 #include "editors/frmPropertyList.h"
@@ -15,6 +13,7 @@
 #include "ui/widgets/frmCalendar.h"
 #include "ui/widgets/HoverButtonArray.h"
 #include "ui/widgets/Pictures.h"
+#include "ui/widgets/Theme.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -39,8 +38,8 @@ bool IsDateRow(int row)
 frmProperty::frmProperty() : Form(u"frmProperty"_s)
 {
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(8, 8, 8, 8);
-    layout->setSpacing(8);
+    layout->setContentsMargins(Theme::Spacing, Theme::Spacing, Theme::Spacing, Theme::Spacing);
+    layout->setSpacing(Theme::Spacing);
     m_sheet = new SheetEditor(PropertyRows(), this);
     m_sheet->SetStartRow([this](int curRow) { return StartRow(curRow); });
     m_sheet->SetStarted([this](int row) { Started(row); });
@@ -169,11 +168,9 @@ void frmProperty::picCalendar_Click()
         const int row = m_sheet->CurRow();
         if (row == 0)
             return;
-        const std::optional<Date> typed = ParseDate(m_sheet->ControlText(row));
-        gReturnValue =
-            AskForDate(m_sheet->Control(row)->accessibleName(), typed ? ToDateTime(*typed).date() : Clock::Today());
-        if (!gReturnValue.isEmpty())
-            m_sheet->SetField(row, {gReturnValue, gReturnValue.size()});
+        const QString date = AskForDate(m_sheet->Control(row)->accessibleName(), m_sheet->ControlText(row));
+        if (!date.isEmpty())
+            m_sheet->SetField(row, {date, date.size()});
     });
 }
 

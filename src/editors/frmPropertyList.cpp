@@ -10,6 +10,7 @@
 #include "model/Main.h"
 #include "model/PropDescribe.h"
 #include "ui/widgets/Grid.h"
+#include "ui/widgets/Theme.h"
 
 #include <QBoxLayout>
 #include <QMenu>
@@ -37,13 +38,13 @@ frmPropertyList::frmPropertyList() : Form(u"frmPropertyList"_s), m_grid(new Grid
     m_grid->setAccessibleName(u"Properties"_s);
     m_photo->setFixedSize(m_photo->sizeHint());
     auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 8, 0);
-    layout->setSpacing(8);
+    layout->setContentsMargins(0, 0, Theme::Spacing, 0);
+    layout->setSpacing(Theme::Spacing);
     auto* bar = new QMenuBar(this);
     layout->setMenuBar(bar);
     layout->addWidget(m_grid, 1);
     auto* side = new QVBoxLayout;
-    side->setContentsMargins(0, 8, 0, 8);
+    side->setContentsMargins(0, Theme::Spacing, 0, Theme::Spacing);
     side->addWidget(m_photo);
     side->addStretch();
     layout->addLayout(side);
@@ -178,12 +179,7 @@ void frmPropertyList::UnSelectAll()
 
 std::vector<Long> frmPropertyList::Highlighted() const
 {
-    std::vector<Long> ids;
-    for (int row = 1; row <= Rows(); ++row) {
-        if (AnySelectedCol(row, *m_grid))
-            ids.push_back(m_grid->RowItemData(row));
-    }
-    return ids;
+    return HighlightedData(*m_grid);
 }
 
 void frmPropertyList::SetDefaultProp(bool ask)

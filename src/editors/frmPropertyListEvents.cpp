@@ -79,6 +79,7 @@ void frmPropertyList::ConnectGrid()
 {
     connect(m_grid, &Grid::SelectionChange, this, &frmPropertyList::GridPropList_SelectionChange);
     connect(m_grid, &Grid::MouseUp, this, &frmPropertyList::GridPropList_MouseUp);
+    connect(m_grid, &Grid::MenuKey, this, [this](QPoint position) { GridPropList_MouseUp(Qt::RightButton, position); });
     connect(m_grid, &Grid::DblClick, this, &frmPropertyList::GridPropList_DblClick);
     connect(m_grid, &Grid::ColumnClick, this, &frmPropertyList::GridPropList_ColumnClick);
     connect(m_grid, &Grid::KeyDown, this, [this](int code) {

@@ -1,4 +1,3 @@
-#include "core/Dates.h"
 #include "core/Trap.h"
 #include "editors/frmProperty.h"
 #include "editors/frmPropertyList.h"

@@ -123,12 +123,8 @@ void frmLabelType::Choose()
 
 bool frmLabelType::KeyPreview(QKeyEvent* event)
 {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool inList = m_ui->lstProducts->hasFocus() || m_ui->lstNumbers->hasFocus();
-    if (event->type() != QEvent::KeyPress || !enter || !inList)
-        return false;
-    cmdButton_Click(Ok);
-    return true;
+    return inList && EnterIsOk(*event, [this] { cmdButton_Click(Ok); });
 }
 
 void frmLabelType::EscapePressed()

@@ -76,7 +76,7 @@ void Contact::LoadProperties()
     });
 }
 
-Long Contact::AddToDB(std::optional<Long> subCategory) const
+Long Contact::AddToDB(std::optional<Long> subCategory, bool* written) const
 {
     return Trap(u"Class Contact AddToDB Error #"_s, Icon::Information, [&] {
         const Long sub = subCategory ? *subCategory : SelectedSub();
@@ -102,6 +102,8 @@ Long Contact::AddToDB(std::optional<Long> subCategory) const
             "Email,ReferredBy,Notes,Spouse)  Values ("_s +
             CStr(CategoryID) + u","_s + CStr(sub) + u",'"_s + names.join(between) + u"',"_s + CStr(MailState) +
             u",'"_s + rest.join(between) + u"')"_s);
+        if (written != nullptr)
+            *written = true;
         // MI and MailAddr1 go in as they are, unlike in the statement above: an apostrophe in the address leaves the
         // row written and its ID unknown, which is meant.
         return ReadBackID(u"Select ID from Contacts Where SubCategoryID="_s + CStr(sub) + u" and FirstName='"_s +
@@ -110,9 +112,9 @@ Long Contact::AddToDB(std::optional<Long> subCategory) const
     });
 }
 
-void Contact::UpdateDB(Long id) const
+bool Contact::UpdateDB(Long id) const
 {
-    Trap(u"Class Contact UpdtateDB Error #"_s, Icon::Information, [&] {
+    return Trap(u"Class Contact UpdtateDB Error #"_s, Icon::Information, [&] {
         gConn.Execute(u"Update Contacts set CategoryID="_s + CStr(CategoryID) + u",SubCategoryID="_s +
                       CStr(subCategoryID) + u",FirstName='"_s + FixQuotes(FirstName) + u"',LastName='"_s +
                       FixQuotes(LastName) + u"',MI='"_s + MI + u"',FormattedName='"_s + FixQuotes(FormatName(*this)) +
@@ -124,6 +126,7 @@ void Contact::UpdateDB(Long id) const
                       u"',Email='"_s + FixQuotes(Email) + u"',ReferredBy='"_s + FixQuotes(ReferredBy) + u"',Notes='"_s +
                       FixQuotes(Notes) + u"',Spouse='"_s + FixQuotes(Spouse) + u"', DefaultProperty="_s +
                       CStr(DefaultProperty) + u" Where ID="_s + CStr(id));
+        return true;
     });
 }
 

@@ -56,10 +56,10 @@ public:
     void LoadProperties();
 
     /// Writes this contact as a new row and gives its ID; without a subcategory it is that of the tree's selected node.
-    /// Gives 0 after a report.
-    [[nodiscard]] Long AddToDB(std::optional<Long> subCategory = {}) const;
-    /// Writes every field to the row of this ID.
-    void UpdateDB(Long id) const;
+    /// Gives 0 after a report; `written` then tells whether the row is there all the same, its ID unknown.
+    [[nodiscard]] Long AddToDB(std::optional<Long> subCategory = {}, bool* written = nullptr) const;
+    /// Writes every field to the row of this ID; false after a report.
+    bool UpdateDB(Long id) const;
     /// Asks about the highlighted rows of the contact list, and deletes their contacts.
     static void DeleteFromDB();
 

@@ -8,6 +8,7 @@
 #include "model/faces.h"
 #include "model/Main.h"
 
+#include <QScopeGuard>
 #include <unordered_set>
 
 using namespace Qt::StringLiterals;
@@ -108,16 +109,19 @@ void DeleteThese(const Ids& ids)
     for (const auto& [contact, subIndex] : places)
         ForgetContact(contact->RecID, contact->CategoryID, subIndex);
     RemoveFromViews(ids);
+    // Also where the file refuses: nothing in memory may still name a contact that is gone from it.
+    const auto forgetTheRest = qScopeGuard([&ids] {
+        const Ids alertIDs = ForgetAlerts(ids);
+        if (auto* panels = Face<AlertPanelsFace>::Get()) {
+            panels->RemoveAlerts(alertIDs);
+            panels->FillAlertGrid(false);
+            panels->FillAlertGrid(true);
+        }
+        for (const Long id : ids)
+            gSelected.Remove(id);
+        ShowSelectedCount();
+    });
     DeleteRows(ids);
-    const Ids alertIDs = ForgetAlerts(ids);
-    if (auto* panels = Face<AlertPanelsFace>::Get()) {
-        panels->RemoveAlerts(alertIDs);
-        panels->FillAlertGrid(false);
-        panels->FillAlertGrid(true);
-    }
-    for (const Long id : ids)
-        gSelected.Remove(id);
-    ShowSelectedCount();
 }
 
 } // namespace

@@ -130,12 +130,12 @@ bool PropDetail::UpdateDB() const
     });
 }
 
-void PropDetail::UpdateDBNotes() const
+bool PropDetail::UpdateDBNotes() const
 {
-    Trap(u"Class PropDetail UpdateDBNotes Error #"_s, Icon::Information, [&] {
-        if (Trim(Notes).isEmpty())
-            return;
-        gConn.Execute(u"Update PropDetail set Notes='"_s + Notes + u"' Where ID="_s + CStr(RecID));
+    return Trap(u"Class PropDetail UpdateDBNotes Error #"_s, Icon::Information, [&] {
+        if (!Trim(Notes).isEmpty())
+            gConn.Execute(u"Update PropDetail set Notes='"_s + Notes + u"' Where ID="_s + CStr(RecID));
+        return true;
     });
 }
 

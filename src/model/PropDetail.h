@@ -62,7 +62,8 @@ public:
     /// False after a report.
     bool UpdateDB() const;
     /// Writes the notes where they hold more than blanks; emptied notes stay in the table, which is meant.
-    void UpdateDBNotes() const;
+    /// False after a report.
+    bool UpdateDBNotes() const;
     /// Deletes all properties of the owner from the table.
     void RemoveContactProperties() const;
     /// Deletes this property from the table, and has the contact list show the owner's count.

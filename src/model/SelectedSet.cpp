@@ -6,6 +6,7 @@
 #include "model/faces.h"
 #include "model/Main.h"
 
+#include <QScopeGuard>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -56,42 +57,64 @@ void ShowSelectedCount()
 
 namespace {
 
-void MarkCurContact(bool selected)
+/// Puts curContact into gSelected or takes it out, and shows that everywhere but in the Rolodex; false where it was so.
+bool ChangeCurContact(bool selected)
 {
+    if (!curContact)
+        throw RunTimeError(ErrorNumber::ObjectNotSet);
+    if (curContact->Selected == selected)
+        return false;
+    if (selected)
+        gSelected.Add(curContact->RecID);
+    else
+        gSelected.Remove(curContact->RecID);
     curContact->Selected = selected;
-    if (auto* rolodex = Face<RolodexFace>::Get())
-        rolodex->SelectInRolodex(selected);
     ShowSelectedCount();
     if (auto* list = Face<ContactListFace>::Get())
         list->ShowChecked(curContact->RecID, selected);
     if (auto* found = Face<FoundFace>::Get())
         found->MarkSelected(curContact->RecID, selected);
+    return true;
 }
+
+constexpr auto unselectTag = "UnSelectCurContact Error #"_L1;
 
 } // namespace
 
 void SelectCurContact()
 {
     Trap(u"SelectCurContact Error #"_s, Icon::Information, [] {
-        if (!curContact)
-            throw RunTimeError(ErrorNumber::ObjectNotSet);
-        if (curContact->Selected)
-            return;
-        gSelected.Add(curContact->RecID);
-        MarkCurContact(true);
+        auto* rolodex = Face<RolodexFace>::Get();
+        if (ChangeCurContact(true) && rolodex != nullptr)
+            rolodex->SelectInRolodex(true);
     });
 }
 
 void UnSelectCurContact()
 {
-    Trap(u"UnSelectCurContact Error #"_s, Icon::Information, [] {
-        if (!curContact)
-            throw RunTimeError(ErrorNumber::ObjectNotSet);
-        if (!curContact->Selected)
-            return;
-        gSelected.Remove(curContact->RecID);
-        MarkCurContact(false);
+    Trap(unselectTag, Icon::Information, [] {
+        auto* rolodex = Face<RolodexFace>::Get();
+        if (ChangeCurContact(false) && rolodex != nullptr)
+            rolodex->SelectInRolodex(false);
     });
+}
+
+void SelectContacts(const std::vector<Long>& ids, bool select)
+{
+    const HourGlass hourGlass;
+    std::vector<Long> unselected;
+    // Row by row, thousands of them would take the Rolodex seconds.
+    const auto inRolodex = qScopeGuard([&unselected] {
+        if (auto* rolodex = Face<RolodexFace>::Get(); rolodex != nullptr && !unselected.empty())
+            rolodex->UnselectInRolodex(unselected);
+    });
+    for (const Long id : ids) {
+        curContact = ContactAt(id);
+        if (select)
+            SelectCurContact();
+        else if (Trap(unselectTag, Icon::Information, [] { return ChangeCurContact(false); }))
+            unselected.push_back(id);
+    }
 }
 
 void UnselectAll()

@@ -37,6 +37,10 @@ void SelectCurContact();
 /// The mirror: takes curContact out of gSelected, and its marks away.
 void UnSelectCurContact();
 
+/// Selects these contacts, or unselects them, one after the other under the hourglass; each becomes curContact. Raises
+/// 424 at a contact that is gone; those before it are done.
+void SelectContacts(const std::vector<Long>& ids, bool select);
+
 /// Asks, and on Yes unselects all, the one selected last first.
 void UnselectAll();
 

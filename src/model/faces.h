@@ -139,6 +139,8 @@ class RolodexFace
 public:
     virtual ~RolodexFace() = default;
     virtual void SelectInRolodex(bool selecting) = 0;
+    /// The same for many contacts that were unselected, at once.
+    virtual void UnselectInRolodex(const std::vector<Long>& contactIDs) = 0;
     /// Takes all rows away at once where the Selected contacts are shown: none of them will be Selected.
     virtual void ForgetSelected() = 0;
     virtual void RemoveContacts(const std::vector<Long>& contactIDs) = 0;

@@ -1,3 +1,4 @@
+#include "core/adodb/Connection.h"
 #include "core/Convert.h"
 #include "core/Trap.h"
 #include "model/Categories.h"
@@ -50,6 +51,7 @@ void CategoryTree::MoveNode(Long newParentID)
     TrapThen(
         u"MoveNode Error #"_s, Icon::Information,
         [&] {
+            const HourGlass hourGlass;
             QTreeWidgetItem* node = Selected();
             const Long oldParentID = GetKey(SelectedParentKey());
             const qsizetype position = LocateSub(CLng(CategoryTreeView::TagOf(node)), oldParentID);
@@ -59,11 +61,13 @@ void CategoryTree::MoveNode(Long newParentID)
             CategoryAt(newParentID)->Subs->push_back(sub);
             CategoryAt(oldParentID)->Subs->erase(CategoryAt(oldParentID)->Subs->begin() + (position - 1));
             sub->UpdateSubCategory(name, newParentID);
-            gContacts.ForEach([&](Long, const std::shared_ptr<Contact>& contact) {
-                if (!contact || contact->subCategoryID != sub->RecID)
-                    return;
-                contact->CategoryID = newParentID;
-                contact->UpdateDB(contact->RecID);
+            gConn.ShareCommits([&] {
+                gContacts.ForEach([&](Long, const std::shared_ptr<Contact>& contact) {
+                    if (!contact || contact->subCategoryID != sub->RecID)
+                        return;
+                    contact->CategoryID = newParentID;
+                    contact->UpdateDB(contact->RecID);
+                });
             });
             // The counts of both categories stay as they were until the next start, which is meant.
             RehangNode(node, newParentID);

@@ -10,6 +10,7 @@
 #include "organise/CategoryTreeView.h"
 #include "ui/frame/frmMain.h"
 #include "ui/frame/Menus.h"
+#include "ui/widgets/Theme.h"
 
 #include <QAction>
 #include <QMenu>
@@ -45,7 +46,7 @@ QString ContactsIn(const QString& name)
 CategoryTree::CategoryTree(frmMain& window) : m_window(window), m_tree(new CategoryTreeView(this))
 {
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(8, 8, 8, 8);
+    layout->setContentsMargins(Theme::Spacing, Theme::Spacing, Theme::Spacing, Theme::Spacing);
     layout->addWidget(m_tree);
     setFocusProxy(m_tree);
     setMinimumWidth(180);

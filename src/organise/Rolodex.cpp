@@ -9,7 +9,6 @@
 #include "ui/widgets/Grid.h"
 #include "ui/widgets/Theme.h"
 
-#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QListWidget>
 #include <QMenu>
@@ -51,10 +50,9 @@ Rolodex::Rolodex() : m_letters(new QListWidget(this)), m_grid(new Grid(this))
     m_grid->setObjectName(u"GridRolodex"_s);
     m_grid->setAccessibleName(u"Rolodex"_s);
     m_grid->SetHeaderVisible(false);
-    m_grid->installEventFilter(this);
 
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(8, 8, 8, 8);
+    layout->setContentsMargins(Theme::Spacing, Theme::Spacing, Theme::Spacing, Theme::Spacing);
     layout->setSpacing(Theme::Spacing);
     layout->addWidget(m_letters);
     layout->addWidget(m_grid);
@@ -62,6 +60,7 @@ Rolodex::Rolodex() : m_letters(new QListWidget(this)), m_grid(new Grid(this))
     BuildMenu();
     ConnectLetters();
     connect(m_grid, &Grid::MouseUp, this, &Rolodex::GridRolodex_MouseUp);
+    connect(m_grid, &Grid::MenuKey, this, [this](QPoint position) { GridRolodex_MouseUp(Qt::RightButton, position); });
     connect(m_grid, &Grid::DblClick, this, [this](int row) { GridRolodex_DblClick(row); });
     connect(m_grid, &Grid::KeyDown, this, [this](int code) {
         if (code == Key::Enter)
@@ -92,19 +91,11 @@ void Rolodex::ConnectLetters()
 
 bool Rolodex::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_letters->viewport() && event->type() == QEvent::MouseButtonRelease) {
-        // Whatever letter the press has made current, also where the button is released on another one.
-        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
-            lstRolodex_Click();
-        return false;
-    }
-    const bool asksForMenu = watched == m_grid && event->type() == QEvent::ContextMenu &&
-                             static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard;
-    if (!asksForMenu)
-        return QWidget::eventFilter(watched, event);
-    GridRolodex_MouseUp(Qt::RightButton,
-                        m_grid->viewport()->mapToGlobal(m_grid->visualRect(m_grid->currentIndex()).bottomLeft()));
-    return true;
+    // Whatever letter the press has made current, also where the button is released on another one.
+    if (watched == m_letters->viewport() && event->type() == QEvent::MouseButtonRelease &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
+        lstRolodex_Click();
+    return QWidget::eventFilter(watched, event);
 }
 
 void Rolodex::ShowLetterColumns()
@@ -143,7 +134,7 @@ void Rolodex::lstRolodex_Click()
             const int row = m_grid->AddRow(id);
             m_grid->SetCellText(row, 1, LetterText(*contact));
             if (contact->Selected)
-                MarkRow(row, true);
+                MarkCell(*m_grid, row, 1, true);
         });
     });
     m_grid->SetRedraw(true);
@@ -174,20 +165,6 @@ void Rolodex::AddSelectedRow(const Contact& contact)
     m_grid->SetCellColor(row, 2, Theme::Green);
 }
 
-void Rolodex::MarkRow(int row, bool selected)
-{
-    if (!selected) {
-        m_grid->ResetCellFont(row, 1);
-        m_grid->SetCellColor(row, 1, QColor());
-        return;
-    }
-    QFont boldItalic = m_grid->font();
-    boldItalic.setBold(true);
-    boldItalic.setItalic(true);
-    m_grid->SetCellFont(row, 1, boldItalic);
-    m_grid->SetCellColor(row, 1, Theme::Green);
-}
-
 void Rolodex::SelectInRolodex(bool selecting)
 {
     Trap(u"frmMain SelectInRolodex Error #"_s, Icon::Critical, [&] {
@@ -201,7 +178,20 @@ void Rolodex::SelectInRolodex(bool selecting)
         if (m_showsSelected)
             m_grid->RemoveRow(row);
         else
-            MarkRow(row, selecting);
+            MarkCell(*m_grid, row, 1, selecting);
+    });
+}
+
+void Rolodex::UnselectInRolodex(const std::vector<Long>& contactIDs)
+{
+    Trap(u"frmMain SelectInRolodex Error #"_s, Icon::Critical, [&] {
+        if (m_showsSelected) {
+            RemoveRowsOf(*m_grid, contactIDs);
+            return;
+        }
+        for (const Long id : contactIDs)
+            if (const int row = m_grid->FindRow(id); row > 0)
+                MarkCell(*m_grid, row, 1, false);
     });
 }
 

@@ -23,6 +23,7 @@ public:
 
     // RolodexFace
     void SelectInRolodex(bool selecting) override;
+    void UnselectInRolodex(const std::vector<Long>& contactIDs) override;
     void ForgetSelected() override;
     void RemoveContacts(const std::vector<Long>& contactIDs) override;
 
@@ -42,8 +43,6 @@ private:
     void ShowLetterColumns();
     void ShowSelectedColumns();
     void AddSelectedRow(const Contact& contact);
-    /// Shows in a row of the letter view whether its contact is Selected.
-    void MarkRow(int row, bool selected);
 
     Face<RolodexFace>::Registration m_face{*this};
     QListWidget* m_letters;

@@ -1,87 +1,23 @@
 #include "organise/frmList.h"
 
-#include "core/Convert.h"
 #include "core/Trap.h"
 #include "model/Categories.h"
-#include "model/ContactFields.h"
+#include "model/Contact.h"
 #include "model/Main.h"
 #include "model/Openers.h"
 #include "model/PropDetail.h"
 #include "model/ShowContact.h"
+#include "organise/ListColumns.h"
+#include "organise/ListMenus.h"
 #include "ui/widgets/Grid.h"
 
-#include <QAction>
+#include <QMenu>
 #include <QMenuBar>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// A column that shows a field of the contact.
-struct FieldColumn
-{
-    QLatin1StringView Key;
-    QLatin1StringView Header;
-    int Width;
-    ContactField Field;
-};
-
-constexpr FieldColumn fieldColumns[]{
-    {"FirstName"_L1, "First Name"_L1, 122, ContactField::FirstName},
-    {"MI"_L1, "MI"_L1, 29, ContactField::MI},
-    {"LastName"_L1, "Last Name"_L1, 122, ContactField::LastName},
-    {"Address1"_L1, "Address1"_L1, 122, ContactField::MailAddr1},
-    {"Address2"_L1, "Address2"_L1, 102, ContactField::MailAddr2},
-    {"City"_L1, "City"_L1, 122, ContactField::MailCity},
-    {"State"_L1, "State"_L1, 42, ContactField::MailState},
-    {"Zip"_L1, "Zip"_L1, 49, ContactField::MailZip},
-    {"Zip4"_L1, "Zip4"_L1, 42, ContactField::MailZip4},
-    {"Salutation"_L1, "Salutation"_L1, 122, ContactField::Salutation},
-    {"Spouse"_L1, "Spouse"_L1, 122, ContactField::Spouse},
-    {"ReferredBy"_L1, "Referred By"_L1, 122, ContactField::ReferredBy},
-    {"Company"_L1, "Company"_L1, 122, ContactField::Company},
-    {"Email"_L1, "Email"_L1, 122, ContactField::Email},
-    {"HomePhone"_L1, "Home Phone"_L1, 104, ContactField::HomePhone},
-    {"WorkPhone"_L1, "Work Phone"_L1, 104, ContactField::WorkPhone},
-    {"Ext"_L1, "Ext"_L1, 94, ContactField::Ext},
-    {"CellPhone"_L1, "Cell Phone"_L1, 104, ContactField::Cell},
-    {"Fax"_L1, "Fax"_L1, 104, ContactField::Fax},
-};
-
-constexpr int alertColumn = 1;
-constexpr int checkedColumn = 2;
-constexpr int propColumn = 3;
-constexpr int firstFieldColumn = 4;
-
-/// Small counts in a face of their own.
-QFont CountFont()
-{
-    QFont font(u"Verdana"_s, 9);
-    font.setBold(true);
-    font.setItalic(true);
-    return font;
-}
-
-/// The icon of a contact's alerts; the numbers of the states are those of AlertColor.
-QString AlertIcon(AlertState state)
-{
-    switch (state) {
-    case AlertState::Today:
-        return u"red"_s;
-    case AlertState::Future:
-        return u"white"_s;
-    case AlertState::Past:
-        return u"yellow"_s;
-    case AlertState::None:
-        break;
-    }
-    return {};
-}
-
-} // namespace
-
-frmList::frmList() : Form(u"frmList"_s), m_grid(new Grid(this))
+frmList::frmList() : Form(u"frmList"_s), m_grid(new Grid(this)), m_menus(new ListMenus(*this))
 {
     m_grid->setObjectName(u"GridList"_s);
     m_grid->setAccessibleName(u"Contacts"_s);
@@ -90,8 +26,8 @@ frmList::frmList() : Form(u"frmList"_s), m_grid(new Grid(this))
     auto* bar = new QMenuBar(this);
     layout->setMenuBar(bar);
     layout->addWidget(m_grid);
-    BuildMenu();
-    bar->addMenu(m_contactsMenu);
+    PlugMenus();
+    bar->addMenu(&m_menus->Contacts());
     ConnectGrid();
     resize(960, 480);
     setMinimumSize(320, 200);
@@ -122,7 +58,7 @@ void frmList::Form_Activate()
             Unload();
             return;
         }
-        ShowPropertyCaption();
+        m_menus->ShowPropertyCaption();
         ShoWait(u"Contact list"_s);
     });
 }
@@ -147,23 +83,12 @@ void frmList::UnloadList()
     Unload();
 }
 
-void frmList::LoadContactColumns()
-{
-    if (m_grid->Columns() > 0)
-        return;
-    m_grid->AddColumn({.Key = u"Alert"_s, .HeaderIcon = u"red"_s, .Width = 39, .Sort = SortType::Number});
-    m_grid->AddColumn({.Key = u"Checked"_s, .HeaderIcon = u"checked"_s, .Width = 26});
-    m_grid->AddColumn({.Key = u"Prop"_s, .HeaderIcon = u"house"_s, .Width = 37, .Sort = SortType::Number});
-    for (const FieldColumn& column : fieldColumns)
-        m_grid->AddColumn({.Key = QString(column.Key), .Header = QString(column.Header), .Width = column.Width});
-}
-
 void frmList::FillContactList()
 {
     Trap(u"frmList FillContactList Error #"_s, Icon::Information, [this] {
         const HourGlass hourGlass;
         m_grid->SetRedraw(false);
-        LoadContactColumns();
+        LoadContactColumns(*m_grid);
         m_grid->Clear();
         auto* tree = Face<TreeFace>::Get();
         if (tree != nullptr && tree->SelectedKey().isEmpty())
@@ -176,10 +101,10 @@ void frmList::FillContactList()
         });
         if (Rows() > 0) {
             curContact = ContactAt(m_grid->RowItemData(1));
-            m_grid->SelectCell(1, firstFieldColumn);
+            m_grid->SelectCell(1, ListColumn::FirstField);
         }
         ShowCaption();
-        EnableProperties();
+        m_menus->EnableProperties();
     });
     m_grid->SetRedraw(true);
 }
@@ -188,33 +113,18 @@ void frmList::AddContact(const std::shared_ptr<Contact>& contact)
 {
     curContact = contact;
     const int row = m_grid->AddRow(contact->RecID);
-    WriteRow(row);
+    WriteContact(*m_grid, row, *contact);
     if (!gAlerts.OfContact(contact->RecID).empty())
         SetAlertIcon(row);
     if (contact->Selected)
-        m_grid->SetCellIcon(row, checkedColumn, u"checked"_s);
-    UpdateContactPropDisplay(static_cast<int>(contact->Properties.Count()), row);
-}
-
-void frmList::WriteRow(int row)
-{
-    int column = firstFieldColumn;
-    for (const FieldColumn& field : fieldColumns)
-        m_grid->SetCellText(row, column++, ContactText(*curContact, field.Field));
+        m_grid->SetCellIcon(row, ListColumn::Checked, u"checked"_s);
+    WritePropertyCount(*m_grid, row, static_cast<int>(contact->Properties.Count()));
 }
 
 void frmList::UpdateContactGridCols()
 {
-    Trap(u"frmList UpdateContactGridCols Error #"_s, Icon::Information, [this] { WriteRow(SelectedRow()); });
-}
-
-void frmList::UpdateContactPropDisplay(int count, int row)
-{
-    if (count == 0 && m_grid->CellText(row, propColumn).isEmpty())
-        return;
-    m_grid->SetCellText(row, propColumn, count > 0 ? CStr(Long{count}) : QString());
-    m_grid->SetCellIcon(row, propColumn, count > 0 ? u"house"_s : QString());
-    m_grid->SetCellFont(row, propColumn, CountFont());
+    Trap(u"frmList UpdateContactGridCols Error #"_s, Icon::Information,
+         [this] { WriteContact(*m_grid, SelectedRow(), *curContact); });
 }
 
 void frmList::SetAlertIcon(int row)
@@ -222,15 +132,7 @@ void frmList::SetAlertIcon(int row)
     Trap(u"frmList SetAlertIcon Error #"_s, Icon::Information, [&] {
         if (!curContact)
             throw RunTimeError(ErrorNumber::ObjectNotSet);
-        const AlertState state = AlertColor();
-        const QColor own = m_grid->CellColor(row, m_grid->ColumnIndex(u"Address1"));
-        const QColor names = state == AlertState::Today ? QColor(255, 0, 0) : own;
-        for (const QStringView key : {u"FirstName", u"MI", u"LastName"})
-            m_grid->SetCellColor(row, m_grid->ColumnIndex(key), names);
-        m_grid->SetCellIcon(row, alertColumn, AlertIcon(state));
-        m_grid->SetCellFont(row, alertColumn, CountFont());
-        m_grid->SetCellText(row, alertColumn,
-                            curContact->NumberOfAlerts > 0 ? CStr(curContact->NumberOfAlerts) : QString());
+        WriteAlerts(*m_grid, row);
     });
 }
 
@@ -245,7 +147,7 @@ void frmList::ShowAlertIcon()
 void frmList::FocusFirstName()
 {
     if (SelectedRow() > 0)
-        m_grid->SetSelectedCol(firstFieldColumn);
+        m_grid->SetSelectedCol(ListColumn::FirstField);
 }
 
 int frmList::Rows() const
@@ -260,12 +162,7 @@ int frmList::SelectedRow() const
 
 std::vector<Long> frmList::Highlighted() const
 {
-    std::vector<Long> ids;
-    for (int row = 1; row <= Rows(); ++row) {
-        if (AnySelectedCol(row, *m_grid))
-            ids.push_back(m_grid->RowItemData(row));
-    }
-    return ids;
+    return HighlightedData(*m_grid);
 }
 
 void frmList::AddRow()
@@ -304,7 +201,7 @@ void frmList::SelectContact(Long contactID)
         return;
     m_grid->SelectCell(row, m_grid->ColumnIndex(u"FirstName"));
     m_grid->EnsureVisible(row, 1);
-    EnableProperties();
+    m_menus->EnableProperties();
 }
 
 void frmList::RemoveContacts(const std::vector<Long>& contactIDs)
@@ -329,20 +226,14 @@ void frmList::ShowPropertyCount(Long contactID, int count)
 {
     const int row = m_grid->FindRow(contactID);
     if (row > 0)
-        UpdateContactPropDisplay(count, row);
+        WritePropertyCount(*m_grid, row, count);
 }
 
 void frmList::ShowChecked(Long contactID, bool checked)
 {
     const int row = m_grid->FindRow(contactID);
     if (row > 0)
-        m_grid->SetCellIcon(row, checkedColumn, checked ? u"checked"_s : QString());
-}
-
-void frmList::EnableProperties()
-{
-    const bool some = curContact && !curContact->Properties.IsEmpty();
-    Entry("mnuProperties").setEnabled(some && gOpeners.PropertyList);
+        m_grid->SetCellIcon(row, ListColumn::Checked, checked ? u"checked"_s : QString());
 }
 
 void ShowContactList(QWidget* owner)

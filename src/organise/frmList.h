@@ -7,8 +7,8 @@
 
 class Category;
 class Grid;
-class QAction;
-class QMenu;
+class ListMenus;
+class QModelIndex;
 
 /// The list of the contacts of one subcategory. It stands beside the main window, and is brought up to date by explicit
 /// calls.
@@ -48,17 +48,12 @@ protected:
 private:
     // frmList.cpp: the window and its rows
     void Form_Load();
-    void LoadContactColumns();
     void ShowCaption();
     void AddContact(const std::shared_ptr<Contact>& contact);
-    void WriteRow(int row);
     void SetAlertIcon(int row);
-    void UpdateContactPropDisplay(int count, int row);
-    void EnableProperties();
 
-    // frmListEvents.cpp: keys, mouse and menus
-    void BuildMenu();
-    QAction* AddEntry(QMenu* menu, const char* name, const QString& caption, void (frmList::*click)());
+    // frmListEvents.cpp: keys, mouse and what the menus do
+    void PlugMenus();
     void ConnectGrid();
     void GridList_ColumnClick(int column);
     void GridList_SelectionChange();
@@ -67,29 +62,17 @@ private:
     void GridList_MouseUp(Qt::MouseButton button, QPoint position);
     void GridList_DblClick(int row, int column);
     void GridList_KeyDown(int code);
-    /// The row under a global position, 0 where there is none.
-    [[nodiscard]] int RowUnder(QPoint position) const;
-    void PopUpMenu(QPoint position);
+    void GridList_MenuKey(QPoint position);
+    /// The cell under a global position; an invalid one where there is none.
+    [[nodiscard]] QModelIndex CellUnder(QPoint position) const;
+    /// The popup of a cell of the list.
+    void PopUpMenu(int row, int column, QPoint position);
     void mnuContacts_Click();
-    void ShowMenuForOne();
-    void ShowMenuForMany(qsizetype count);
-    void ShowPropertyCaption();
-    [[nodiscard]] QAction& Entry(const char* name) const;
-    void SelectHilited(bool select);
 
     void mnuNew_Click();
-    void mnuModify_Click();
     void mnuSelect_Click();
     void mnuUnselect_Click();
     void mnuDelete_Click();
-    void mnuMove_Click();
-    void mnuManageAlerts_Click();
-    void mnuNewAlert_Click();
-    void mnuWord_Click();
-    void mnuNotes_Click();
-    void mnuProperties_Click();
-    void mnuNewProperty_Click();
-    void mnuClose_Click();
 
     // frmListMove.cpp: contacts to another subcategory
     void ContactMove();
@@ -98,8 +81,7 @@ private:
     /// Until it is unloaded: what is closed is not there for the others, although it may be deleted only later.
     std::optional<Face<ContactListFace>::Registration> m_face{*this};
     Grid* m_grid;
-    QMenu* m_contactsMenu = nullptr;
-    QMenu* m_propertyMenu = nullptr;
+    ListMenus* m_menus;
 };
 
 /// Shows the contact list beside the main window, loading it where it is not.

@@ -1,4 +1,3 @@
-#include "core/Convert.h"
 #include "core/FieldRules.h"
 #include "core/Trap.h"
 #include "model/Contact.h"
@@ -7,52 +6,25 @@
 #include "model/Openers.h"
 #include "model/PropDetail.h"
 #include "organise/frmList.h"
-#include "ui/frame/Menus.h"
+#include "organise/ListColumns.h"
+#include "organise/ListMenus.h"
 #include "ui/widgets/Grid.h"
 
-#include <QAction>
 #include <QMenu>
 
 using namespace Qt::StringLiterals;
 
 // What the keys, the mouse and the menu of the contact list do.
 
-void frmList::BuildMenu()
+void frmList::PlugMenus()
 {
-    m_contactsMenu = new QMenu(u"Current &Contact"_s, this);
-    m_contactsMenu->setObjectName(u"mnuContacts"_s);
-    m_propertyMenu = new QMenu(u"Properties"_s, this);
-    m_propertyMenu->setObjectName(u"mnuProperty"_s);
-
-    AddEntry(m_contactsMenu, "mnuNew", u"New Contact"_s, &frmList::mnuNew_Click);
-    AddEntry(m_contactsMenu, "mnuModify", u"Modify"_s, &frmList::mnuModify_Click);
-    AddEntry(m_contactsMenu, "mnuSelect", u"Select"_s, &frmList::mnuSelect_Click);
-    AddEntry(m_contactsMenu, "mnuUnselect", u"Unselect"_s, &frmList::mnuUnselect_Click);
-    AddEntry(m_contactsMenu, "mnuDelete", u"Delete"_s, &frmList::mnuDelete_Click);
-    AddEntry(m_contactsMenu, "mnuMove", u"Move"_s, &frmList::mnuMove_Click);
-    AddEntry(m_contactsMenu, "mnuManageAlerts", u"Alerts"_s, &frmList::mnuManageAlerts_Click);
-    AddEntry(m_contactsMenu, "mnuNewAlert", u"New Alert "_s, &frmList::mnuNewAlert_Click);
-    AddEntry(m_contactsMenu, "mnuWord", u"Send To Ms Word File"_s, &frmList::mnuWord_Click);
-    AddEntry(m_contactsMenu, "mnuNotes", u"Notes"_s, &frmList::mnuNotes_Click);
-    m_contactsMenu->addMenu(m_propertyMenu);
-    AddEntry(m_propertyMenu, "mnuProperties", u"View Current Properties"_s, &frmList::mnuProperties_Click);
-    AddEntry(m_propertyMenu, "mnuNewProperty", u"New Property"_s, &frmList::mnuNewProperty_Click);
-    AddEntry(m_contactsMenu, "mnuClose", u"Close"_s, &frmList::mnuClose_Click);
-    Entry("mnuWord").setEnabled(static_cast<bool>(gOpeners.WordFileOfListed));
-    connect(m_contactsMenu, &QMenu::aboutToShow, this, &frmList::mnuContacts_Click);
-}
-
-QAction* frmList::AddEntry(QMenu* menu, const char* name, const QString& caption, void (frmList::*click)())
-{
-    QAction* entry = menu->addAction(caption);
-    entry->setObjectName(QLatin1StringView(name));
-    connect(entry, &QAction::triggered, this, click);
-    return entry;
-}
-
-QAction& frmList::Entry(const char* name) const
-{
-    return *findChild<QAction*>(QLatin1StringView(name));
+    m_menus->Plug("mnuNew", [this] { mnuNew_Click(); });
+    m_menus->Plug("mnuSelect", [this] { mnuSelect_Click(); });
+    m_menus->Plug("mnuUnselect", [this] { mnuUnselect_Click(); });
+    m_menus->Plug("mnuDelete", [this] { mnuDelete_Click(); });
+    m_menus->Plug("mnuMove", [this] { ContactMove(); });
+    m_menus->Plug("mnuClose", [this] { Unload(); });
+    connect(&m_menus->Contacts(), &QMenu::aboutToShow, this, &frmList::mnuContacts_Click);
 }
 
 void frmList::ConnectGrid()
@@ -60,6 +32,7 @@ void frmList::ConnectGrid()
     connect(m_grid, &Grid::SelectionChange, this, &frmList::GridList_SelectionChange);
     connect(m_grid, &Grid::MouseDown, this, &frmList::GridList_MouseDown);
     connect(m_grid, &Grid::MouseUp, this, &frmList::GridList_MouseUp);
+    connect(m_grid, &Grid::MenuKey, this, &frmList::GridList_MenuKey);
     connect(m_grid, &Grid::DblClick, this, &frmList::GridList_DblClick);
     connect(m_grid, &Grid::KeyDown, this, &frmList::GridList_KeyDown);
     connect(m_grid, &Grid::ColumnClick, this, &frmList::GridList_ColumnClick);
@@ -89,7 +62,7 @@ void frmList::GridList_SelectionChange()
         gEditMode = EditMode::Neutral;
         // Sideways the view stays with the current cell: the columns at the far end are worked like the first.
         m_grid->EnsureVisible(row, std::max(1, m_grid->SelectedCol()));
-        EnableProperties();
+        m_menus->EnableProperties();
     });
 }
 
@@ -111,16 +84,18 @@ void frmList::GridList_MouseDown()
 void frmList::GridList_MouseUp(Qt::MouseButton button, QPoint position)
 {
     Trap(u"frmList GridList_MouseUp Error #"_s, Icon::Information, [&] {
+        const QModelIndex under = CellUnder(position);
         if (button == Qt::RightButton) {
-            PopUpMenu(position);
+            PopUpMenu(under.isValid() ? under.row() + 1 : SelectedRow(),
+                      under.isValid() ? under.column() + 1 : m_grid->SelectedCol(), position);
             return;
         }
-        ShowPropertyCaption();
-        EnableProperties();
+        m_menus->ShowPropertyCaption();
+        m_menus->EnableProperties();
         const int column = m_grid->SelectedCol();
         if (Rows() == 0 || column == 0)
             return;
-        if (RowUnder(position) > 0 && m_grid->Column(column).Key == "Checked"_L1) {
+        if (under.isValid() && m_grid->Column(column).Key == "Checked"_L1) {
             if (curContact && curContact->Selected)
                 UnSelectCurContact();
             else
@@ -130,21 +105,24 @@ void frmList::GridList_MouseUp(Qt::MouseButton button, QPoint position)
     });
 }
 
-int frmList::RowUnder(QPoint position) const
+void frmList::GridList_MenuKey(QPoint position)
 {
-    return m_grid->indexAt(m_grid->viewport()->mapFromGlobal(position)).row() + 1;
+    Trap(u"frmList GridList_MouseUp Error #"_s, Icon::Information,
+         [&] { PopUpMenu(SelectedRow(), m_grid->SelectedCol(), position); });
 }
 
-void frmList::PopUpMenu(QPoint position)
+QModelIndex frmList::CellUnder(QPoint position) const
 {
-    const QModelIndex under = m_grid->indexAt(m_grid->viewport()->mapFromGlobal(position));
-    const int row = under.isValid() ? under.row() + 1 : SelectedRow();
-    const int column = under.isValid() ? under.column() + 1 : m_grid->SelectedCol();
+    return m_grid->indexAt(m_grid->viewport()->mapFromGlobal(position));
+}
+
+void frmList::PopUpMenu(int row, int column, QPoint position)
+{
     if (row > 0 && gContacts.Exists(m_grid->RowItemData(row)))
         curContact = ContactAt(m_grid->RowItemData(row));
     const bool onProperties = column > 0 && m_grid->Column(column).Key == "Prop"_L1;
     mnuContacts_Click();
-    (onProperties ? m_propertyMenu : m_contactsMenu)->popup(position);
+    (onProperties ? m_menus->Properties() : m_menus->Contacts()).popup(position);
 }
 
 void frmList::mnuContacts_Click()
@@ -152,56 +130,8 @@ void frmList::mnuContacts_Click()
     Trap(u"frmList mnuContacts_Click Error #"_s, Icon::Information, [this] {
         const qsizetype count = HilitedContacts();
         TakeSelectedRow();
-        for (const char* name : {"mnuModify", "mnuSelect", "mnuUnselect", "mnuDelete", "mnuMove", "mnuManageAlerts",
-                                 "mnuNewAlert", "mnuNotes"})
-            Entry(name).setEnabled(count > 0);
-        Entry("mnuNewProperty").setEnabled(count > 0 && gOpeners.PropertyEditor);
-        if (count >= 2)
-            ShowMenuForMany(count);
-        else if (count == 1 && curContact)
-            ShowMenuForOne();
-        ShowPropertyCaption();
-        EnableProperties();
+        m_menus->ShowFor(count);
     });
-}
-
-void frmList::ShowMenuForOne()
-{
-    const QString name = FormatName();
-    const auto show = [this](const char* entry, const QString& caption, bool enabled = true) {
-        Entry(entry).setText(MenuText(caption));
-        Entry(entry).setEnabled(enabled);
-    };
-    const bool alerts = static_cast<bool>(gOpeners.Alerts);
-    show("mnuModify", u"Modify "_s + name);
-    show("mnuSelect", u"Select "_s + name);
-    show("mnuUnselect", u"Unselect "_s + name);
-    show("mnuDelete", u"Delete "_s + name);
-    show("mnuMove", u"Move "_s + name);
-    show("mnuManageAlerts", name + u"'s Existing Alerts"_s, alerts);
-    show("mnuNewAlert", u"Set a New Alert for "_s + name, alerts);
-    Entry("mnuNotes").setEnabled(true);
-    Entry("mnuSelect").setVisible(!curContact->Selected);
-    Entry("mnuUnselect").setVisible(curContact->Selected);
-}
-
-void frmList::ShowMenuForMany(qsizetype count)
-{
-    const QString many = u" the "_s + CStr(qint64{count}) + u" Highlighted Contacts"_s;
-    Entry("mnuSelect").setText(u"Select"_s + many);
-    Entry("mnuUnselect").setText(u"Unselect"_s + many);
-    Entry("mnuDelete").setText(u"Delete"_s + many);
-    Entry("mnuMove").setText(u"Move"_s + many);
-    Entry("mnuSelect").setVisible(true);
-    Entry("mnuUnselect").setVisible(true);
-    for (const char* name : {"mnuNewAlert", "mnuModify", "mnuManageAlerts", "mnuNotes"})
-        Entry(name).setEnabled(false);
-}
-
-void frmList::ShowPropertyCaption()
-{
-    if (curContact)
-        m_propertyMenu->setTitle(MenuText(FormatName() + u"'s Properties"_s));
 }
 
 void frmList::GridList_DblClick(int row, int column)
@@ -212,9 +142,9 @@ void frmList::GridList_DblClick(int row, int column)
         const QString key = m_grid->Column(column).Key;
         if (key == "Prop"_L1) {
             if (curContact->Properties.IsEmpty())
-                mnuNewProperty_Click();
+                ListMenus::mnuNewProperty_Click();
             else
-                mnuProperties_Click();
+                ListMenus::mnuProperties_Click();
         } else if (key == "Alert"_L1) {
             if (!gOpeners.Alerts)
                 return;
@@ -222,7 +152,7 @@ void frmList::GridList_DblClick(int row, int column)
             gAlertMode = gAlerts.OfContact(curContact->RecID).empty() ? AlertMode::New : AlertMode::Modify;
             gOpeners.Alerts();
         } else if (key != "Checked"_L1) {
-            mnuModify_Click();
+            ListMenus::mnuModify_Click();
         }
     });
 }
@@ -245,7 +175,7 @@ void frmList::mnuNew_Click()
 {
     Trap(u"frmList mnuNew_Click Error #"_s, Icon::Information, [this] {
         gEditMode = EditMode::NewContact;
-        LoadContactColumns();
+        LoadContactColumns(*m_grid);
         AddRow();
         SelectLastRow();
         if (gOpeners.ContactEditor)
@@ -253,35 +183,14 @@ void frmList::mnuNew_Click()
     });
 }
 
-void frmList::mnuModify_Click()
-{
-    Trap(u"frmList mnuModify_Click Error #"_s, Icon::Information, [] {
-        gEditMode = EditMode::ModifyContact;
-        if (gOpeners.ContactEditor)
-            gOpeners.ContactEditor();
-    });
-}
-
-void frmList::SelectHilited(bool select)
-{
-    const HourGlass hourGlass;
-    for (const Long id : Highlighted()) {
-        curContact = ContactAt(id);
-        if (select)
-            SelectCurContact();
-        else
-            UnSelectCurContact();
-    }
-}
-
 void frmList::mnuSelect_Click()
 {
-    Trap(u"frmList mnuSelect_Click Error #"_s, Icon::Information, [this] { SelectHilited(true); });
+    Trap(u"frmList mnuSelect_Click Error #"_s, Icon::Information, [this] { SelectContacts(Highlighted(), true); });
 }
 
 void frmList::mnuUnselect_Click()
 {
-    Trap(u"frmList mnuUnselect_Click Error #"_s, Icon::Information, [this] { SelectHilited(false); });
+    Trap(u"frmList mnuUnselect_Click Error #"_s, Icon::Information, [this] { SelectContacts(Highlighted(), false); });
 }
 
 void frmList::mnuDelete_Click()
@@ -291,70 +200,4 @@ void frmList::mnuDelete_Click()
         if (Rows() == 0)
             Unload();
     });
-}
-
-void frmList::mnuMove_Click()
-{
-    ContactMove();
-}
-
-void frmList::mnuManageAlerts_Click()
-{
-    Trap(u"frmList mnuManageAlerts_Click Error #"_s, Icon::Information, [] {
-        gAlertMode = AlertMode::Modify;
-        if (gOpeners.Alerts)
-            gOpeners.Alerts();
-    });
-}
-
-void frmList::mnuNewAlert_Click()
-{
-    Trap(u"frmList mnuNewAlert_Click Error #"_s, Icon::Information, [] {
-        gAlertMode = AlertMode::New;
-        if (gOpeners.Alerts)
-            gOpeners.Alerts();
-    });
-}
-
-void frmList::mnuWord_Click()
-{
-    Trap(u"frmList mnuWord_Click Error #"_s, Icon::Information, [] {
-        if (gOpeners.WordFileOfListed)
-            gOpeners.WordFileOfListed();
-    });
-}
-
-void frmList::mnuNotes_Click()
-{
-    Trap(u"frmList mnuNotes_Click Error #"_s, Icon::Information, [] {
-        gEditMode = EditMode::Neutral;
-        if (gOpeners.Notes)
-            gOpeners.Notes();
-    });
-}
-
-void frmList::mnuProperties_Click()
-{
-    Trap(u"frmList mnuProperties_Click Error #"_s, Icon::Information, [] {
-        if (!gOpeners.PropertyList)
-            return;
-        gEditMode = EditMode::ModifyProperty;
-        gOpeners.PropertyList();
-    });
-}
-
-void frmList::mnuNewProperty_Click()
-{
-    Trap(u"frmList mnuNewProperty_Click Error #"_s, Icon::Information, [] {
-        if (!gOpeners.PropertyEditor)
-            return;
-        gEditMode = EditMode::NewProperty;
-        ShoWait(u"Adding a property.."_s);
-        gOpeners.PropertyEditor();
-    });
-}
-
-void frmList::mnuClose_Click()
-{
-    Unload();
 }

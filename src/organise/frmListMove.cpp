@@ -1,3 +1,4 @@
+#include "core/adodb/Connection.h"
 #include "core/Convert.h"
 #include "core/Trap.h"
 #include "model/Categories.h"
@@ -66,18 +67,21 @@ void frmList::MoveContacts(Long categoryID, const Category& target)
         const Integer subCategoryID = CInt(static_cast<double>(target.RecID));
         const std::shared_ptr<Category>& targetCategory = CategoryAt(categoryID);
         const std::shared_ptr<Category> targetSub = targetCategory->Sub(LocateSub(target.RecID, categoryID));
-        for (const Long id : gHilited) {
-            const std::shared_ptr<Contact>& contact = ContactAt(id);
-            const std::shared_ptr<Category>& category = CategoryAt(contact->CategoryID);
-            Category& sub = *category->Sub(LocateSub(contact->subCategoryID, contact->CategoryID));
+        const auto move = [&](Contact& contact) {
+            const std::shared_ptr<Category>& category = CategoryAt(contact.CategoryID);
+            Category& sub = *category->Sub(LocateSub(contact.subCategoryID, contact.CategoryID));
             --category->ContactCount;
             --sub.ContactCount;
-            contact->subCategoryID = subCategoryID;
-            contact->CategoryID = categoryID;
+            contact.subCategoryID = subCategoryID;
+            contact.CategoryID = categoryID;
             ++targetCategory->ContactCount;
             ++targetSub->ContactCount;
-            contact->UpdateDB(contact->RecID);
-        }
+            contact.UpdateDB(contact.RecID);
+        };
+        gConn.ShareCommits([&] {
+            for (const Long id : gHilited)
+                move(*ContactAt(id));
+        });
         RemoveContacts(gHilited);
         if (auto* tree = Face<TreeFace>::Get())
             tree->ShowSubContactCount();

@@ -5,6 +5,7 @@
 #include "model/Categories.h"
 #include "model/Main.h"
 #include "ui/widgets/HoverButtonArray.h"
+#include "ui/widgets/Theme.h"
 
 #include <QHBoxLayout>
 #include <QTreeWidget>
@@ -38,20 +39,18 @@ frmMove::frmMove(What what, const QString& caption, const QString& movedName)
     m_tree->setAccessibleName(u"Destination"_s);
     m_tree->setHeaderHidden(true);
     auto* layout = new QVBoxLayout(this);
-    layout->setSpacing(8);
+    layout->setSpacing(Theme::Spacing);
     layout->addWidget(m_tree);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
     layout->addLayout(buttons);
-    m_buttons = std::make_unique<HoverButtonArray>(
-        *this, *buttons, std::vector<HoverPicture>{{2, u"Ok"_s, u"Ok"_s}, {1, u"Cancel"_s, u"Cancel"_s}});
-    m_buttons->LoadBitMaps();
+    auto* choices = new HoverButtonArray(*this, *buttons, {{2, u"Ok"_s, u"Ok"_s}, {1, u"Cancel"_s, u"Cancel"_s}});
     resize(420, 440);
     setMinimumSize(240, 200);
     CenterForm(*this);
     // A window that is closed by its box has chosen nothing.
     gReturnValue = u"Cancelled"_s;
-    connect(m_buttons.get(), &HoverButtonArray::Click, this, &frmMove::cmdButton_Click);
+    connect(choices, &HoverButtonArray::Click, this, &frmMove::cmdButton_Click);
     connect(m_tree, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem* node) {
         // A category that can't be the target opens and closes by a double click, as in every tree.
         if (m_what == What::Category || node->parent() != nullptr)

@@ -2,7 +2,6 @@
 
 #include "ui/widgets/Form.h"
 
-class HoverButtonArray;
 class QTreeWidget;
 class QTreeWidgetItem;
 
@@ -36,5 +35,4 @@ private:
     What m_what;
     QString m_movedName;
     QTreeWidget* m_tree;
-    std::unique_ptr<HoverButtonArray> m_buttons;
 };

@@ -2,7 +2,6 @@
 #include "search/CriteriaPanel.h"
 #include "search/FoundList.h"
 #include "ui/widgets/Grid.h"
-#include "ui/widgets/Theme.h"
 
 #include <unordered_set>
 
@@ -42,16 +41,7 @@ std::vector<Long> FoundList::HighlightedProperties() const
 
 void FoundList::MarkRow(int row, bool selected)
 {
-    if (!selected) {
-        m_grid->ResetCellFont(row, NameColumn);
-        m_grid->SetCellColor(row, NameColumn, QColor());
-        return;
-    }
-    QFont boldItalic = m_grid->font();
-    boldItalic.setBold(true);
-    boldItalic.setItalic(true);
-    m_grid->SetCellFont(row, NameColumn, boldItalic);
-    m_grid->SetCellColor(row, NameColumn, Theme::Green);
+    MarkCell(*m_grid, row, NameColumn, selected);
 }
 
 void FoundList::MarkSelected(Long contactID, bool selected)

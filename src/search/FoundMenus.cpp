@@ -63,9 +63,6 @@ bool FoundList::eventFilter(QObject* watched, QEvent* event)
         return QWidget::eventFilter(watched, event);
     const auto* asked = static_cast<QContextMenuEvent*>(event);
     if (asked->reason() == QContextMenuEvent::Keyboard && m_grid->SelectedRow() > 0) {
-        // As a right press does: the popup is about the current row, unless several are highlighted.
-        if (m_grid->SelectionCount() < 2)
-            m_grid->SetSelectedRow(m_grid->SelectedRow());
         const QModelIndex first = m_grid->model()->index(m_grid->SelectedRow() - 1, m_grid->columnAt(0));
         PopUpMenu(m_grid->viewport()->mapToGlobal(m_grid->visualRect(first).bottomLeft()));
     }
@@ -95,6 +92,9 @@ void FoundList::PopUpMenu(QPoint position)
         // A list with nothing but the spacer shows no menu, nor does one in which no row was chosen.
         if (Count() == 0 || (m_grid->SelectionCount() < 2 && m_grid->SelectedRow() == 0))
             return;
+        // The popup is about the current row, unless several are highlighted: what it names is what it acts on.
+        if (m_grid->SelectionCount() < 2)
+            m_grid->SetSelectedRow(m_grid->SelectedRow());
         if (ShowsProperties())
             ShowPropertyCaptions();
         else
@@ -187,8 +187,10 @@ void FoundList::ClearHilited()
         }
         m_grid->RemoveRows(rows);
         // The count in the heading stays as it was, which is meant.
-        if (Count() == 0)
+        if (Count() == 0) {
             HideFoundMenus();
+            m_grid->viewport()->setCursor(Qt::ArrowCursor);
+        }
     });
 }
 
@@ -199,8 +201,9 @@ const std::shared_ptr<Contact>& FoundList::ContactOfRow(int row) const
 
 void FoundList::TakeProperty(int row)
 {
-    curPropertyID = m_grid->RowItemData(row);
+    // The contact first: where it is gone, both stay what they were.
     curContact = ContactOfRow(row);
+    curPropertyID = m_grid->RowItemData(row);
 }
 
 // Opening what was found.
@@ -217,6 +220,8 @@ void FoundList::ViewFoundItem()
         auto* tree = Face<TreeFace>::Get();
         if (tree != nullptr && !tree->FindInTree(u"S"_s + CStr(curContact->subCategoryID)))
             throw RunTimeError(ErrorNumber::ObjectNotSet);
+        if (tree != nullptr)
+            tree->ItsASub();
         if (ShowsProperties())
             ViewFoundProperty(row);
         else

@@ -108,12 +108,7 @@ void RangeForm::AnswerWith(const QString& answer)
 
 bool RangeForm::KeyPreview(QKeyEvent* event)
 {
-    if (event->type() != QEvent::KeyPress || (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter))
-        return false;
-    // An Enter that was held down when the window came has answered what was there before.
-    if (!event->isAutoRepeat())
-        cmdbutton_Click(Ok);
-    return true;
+    return EnterIsOk(*event, [this] { cmdbutton_Click(Ok); });
 }
 
 void RangeForm::EscapePressed()
@@ -123,9 +118,13 @@ void RangeForm::EscapePressed()
 
 bool RangeForm::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::FocusIn)
-        if (auto* entry = qobject_cast<QLineEdit*>(watched))
+    auto* entry = qobject_cast<QLineEdit*>(watched);
+    if (entry != nullptr && event->type() == QEvent::FocusIn) {
+        // Back from its own menu or from another window, the field is being worked in.
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
             EntryGotFocus(*entry);
+    }
     return Form::eventFilter(watched, event);
 }
 

@@ -1,6 +1,5 @@
 #include "search/frmDate.h"
 
-#include "core/Clock.h"
 #include "core/Dates.h"
 #include "core/Format.h"
 #include "core/Trap.h"
@@ -108,10 +107,8 @@ void frmDate::OkClick()
 void frmDate::picCalendar_Click()
 {
     Trap(u"frmDate picCalendar_Click Error #"_s, Icon::Critical, [this] {
-        const std::optional<Date> shown = ParseDate(m_active->text());
-        gReturnValue = AskForDate(windowTitle(), shown ? ToDateTime(*shown).date() : Clock::Today());
         // A calendar that was cancelled empties the entry, which is meant.
-        m_active->setText(gReturnValue);
+        m_active->setText(AskForDate(windowTitle(), m_active->text()));
         // The calendar's answer is not this window's.
         gReturnValue.clear();
         m_active->setFocus();

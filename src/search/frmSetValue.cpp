@@ -8,7 +8,6 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QScreen>
 #include <QStackedLayout>
 
 using namespace Qt::StringLiterals;
@@ -17,7 +16,6 @@ namespace {
 
 constexpr int Cancel = 1;
 constexpr int Ok = 2;
-constexpr int TitleBarRoom = 140; // what a title bar needs beside its text
 constexpr int inputWidth = 320;
 
 bool IsDigit(int keyAscii)
@@ -56,8 +54,7 @@ frmSetValue::frmSetValue(const QString& caption, ValueInput input, const QString
     layout->addLayout(m_inputs);
     layout->addStretch();
     layout->addLayout(line);
-    const int title = fontMetrics().horizontalAdvance(caption) + TitleBarRoom;
-    setMinimumWidth(std::min(std::max(title, minimumSizeHint().width()), screen()->availableSize().width() - 40));
+    setMinimumWidth(std::max(TitleWidth(), minimumSizeHint().width()));
     ShowInput(input, seed);
     CenterForm(*this);
 }
@@ -118,12 +115,7 @@ void frmSetValue::ShowInput(ValueInput input, const QString& seed)
 
 bool frmSetValue::KeyPreview(QKeyEvent* event)
 {
-    if (event->type() != QEvent::KeyPress || (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter))
-        return false;
-    // An Enter that was held down when the window came has answered what was there before.
-    if (!event->isAutoRepeat())
-        cmdbutton_Click(Ok);
-    return true;
+    return EnterIsOk(*event, [this] { cmdbutton_Click(Ok); });
 }
 
 void frmSetValue::EscapePressed()

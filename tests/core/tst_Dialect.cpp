@@ -43,6 +43,8 @@ void tst_Dialect::StatementsMeanWhatTheySay_data()
     QTest::newRow("numbers of every form")
         << u"Update T set A=-1.5,B=1E+07,C=.5"_s << u"Update T set A = - ? , B = ? , C = ?"_s
         << QStringList{u"1.5"_s, u"10000000"_s, u"0.5"_s};
+    QTest::newRow("nothing") << u"Insert into T (A,B) Values (Null,1)"_s
+                             << u"Insert into T ( A , B ) Values ( Null , ? )"_s << QStringList{u"1"_s};
 }
 
 void tst_Dialect::StatementsMeanWhatTheySay()
@@ -71,6 +73,15 @@ void tst_Dialect::FaultyStatementsAreRefused()
              u"Insert into T (A,B) Values (1,'a'),(2,'b')"_s,              // a second row
              u"Update T set A=12abc"_s,                                    // a name that begins with a digit
              u"Update T set A=?"_s,                                        // a placeholder of the engine
+             u"Update T set A='rock 'and' roll' Where ID=1"_s,             // a text worked out
+             u"Update T set A='a'='a' Where ID=1"_s,                       // a text compared
+             u"Update T set A='x', B='y', a='z'"_s,                        // a column set twice
+             u"Update T set A=B Where ID=1"_s,                             // a column for a value
+             u"Insert into T (A) Values ('1' + '2')"_s,                    // a sum in a row
+             u"Insert into T (A,B) Values (,1)"_s,                         // no value
+             u"Select ID from T Where A='x' or 'a'='a'"_s,                 // a condition that always holds
+             u"Select ID from T Where A='x' or B='y'"_s,                   // an alternative
+             u"Select ID from T Where A='x' union select 1"_s,             // a second selection
              QString(u"Delete from T"_s + QChar(u'\0') + u"Where ID=1"_s), // a NUL outside of a literal
          })
         QVERIFY2(ErrorOf([&] { (void)Translate(statement); }) == ErrorNumber::EngineSyntax, qPrintable(statement));

@@ -378,6 +378,38 @@ private Q_SLOTS:
         QCOMPARE(found.Redrawn, std::vector<Long>{2});
     }
 
+    void a_refused_write_keeps_the_window_and_says_nothing_of_saved_data()
+    {
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QString>("tag");
+        QTest::newRow("change") << int(EditMode::ModifyContact) << u"UpdtateDB"_s;
+        QTest::newRow("new") << int(EditMode::NewContact) << u"AddToDB"_s;
+    }
+
+    void a_refused_write_keeps_the_window_and_says_nothing_of_saved()
+    {
+        QFETCH(int, mode);
+        QFETCH(QString, tag);
+        Desk desk;
+        const QStringList before = FreshDatabase::WholeFile();
+        Editor editor(mode, 1);
+        const std::shared_ptr<Contact> current = curContact;
+        editor.Name(u"Carl"_s, u"'"_s, u"Smith"_s);
+        desk.User.ExpectReport(u"Class Contact "_s + tag + u" Error #-2147217900"_s);
+        editor.Click(2);
+        desk.User.Done();
+        QVERIFY(!editor.Form().IsUnloaded());
+        QVERIFY(!desk.User.Statuses().contains(u"Saved"_s));
+        QCOMPARE(FreshDatabase::WholeFile(), before);
+        QCOMPARE(gContacts.Count(), 2);
+        QCOMPARE(curContact, current);
+        // What was typed is still there: without the apostrophe it is saved.
+        editor.Name(u"Carl"_s, u"T"_s, u"Smith"_s);
+        editor.Click(2);
+        QVERIFY(editor.Form().IsUnloaded());
+        QCOMPARE(desk.User.LastStatus(), u"Saved"_s);
+    }
+
     void an_apostrophe_in_the_address_leaves_the_row_written_and_its_ID_unknown()
     {
         Desk desk;

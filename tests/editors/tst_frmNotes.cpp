@@ -230,6 +230,25 @@ private Q_SLOTS:
         QCOMPARE(curContact->Properties.Item(1)->Notes, u"roof"_s);
     }
 
+    void a_refused_write_keeps_the_window_and_the_question()
+    {
+        Desk desk;
+        gEditMode = EditMode::ModifyProperty;
+        Notes notes;
+        notes.Type(u"o'clock"_s);
+        const QString report = u"Class PropDetail UpdateDBNotes Error #-2147217900"_s;
+        desk.User.ExpectReport(report);
+        notes.Save();
+        desk.User.Expect(AskTitle, Question, Answer::Yes);
+        desk.User.ExpectReport(report);
+        notes.Exit();
+        QVERIFY(!notes.Form().IsUnloaded());
+        QCOMPARE(desk.User.LastStatus(), QString());
+        desk.User.Expect(AskTitle, Question, Answer::No);
+        notes.Exit();
+        QVERIFY(notes.Form().IsUnloaded());
+    }
+
     void without_a_contact_the_report_comes_and_nothing_breaks()
     {
         Desk desk;

@@ -292,6 +292,9 @@ private Q_SLOTS:
         QCOMPARE(gFocusField, u"City"_s);
         QCOMPARE(curPropertyID, 2);
         menu.close();
+        TypeKey(list.Form(), Qt::Key_F10, Qt::ShiftModifier);
+        QTRY_VERIFY(menu.isVisible());
+        menu.close();
     }
 
     void notes_are_those_of_the_property()

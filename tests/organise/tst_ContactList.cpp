@@ -172,6 +172,13 @@ void tst_ContactList::TheMenuSpeaksOfOneOrOfMany()
     Entry(u"mnuSelect"_s).trigger();
     QCOMPARE(gSelected.Ids(), (std::vector<Long>{1, 2}));
 
+    // The menu key asks for the popup of the current cell.
+    grid.SelectCell(3, 4);
+    TypeKey(*Forms::Find(u"frmList"_s), Qt::Key_F10, Qt::ShiftModifier);
+    QTRY_VERIFY(menu.isVisible());
+    menu.close();
+    QCOMPARE(Entry(u"mnuModify"_s).text(), u"Modify Cy Day"_s);
+
     Press(grid, 1, 3, Qt::RightButton);
     auto& properties = Control<QMenu>(*Forms::Find(u"frmList"_s), u"mnuProperty"_s);
     Press(grid, 3, 3);
@@ -273,19 +280,24 @@ void tst_ContactList::MovingContactsMovesTheCounts()
     Grid& grid = desk.OpenList(u"S1"_s);
     gSettings.ClientName = u"Mine"_s;
     Press(grid, 2, 4);
-    desk.Person.Expect(u"Please Confirm Before I Proceed"_s, u"Do you want me to move Bob M Ray to Houses?"_s,
-                       Answer::Yes);
+    Press(grid, 3, 4, Qt::LeftButton, Qt::ShiftModifier);
+    ContactAt(2)->MI = u"'"_s;
+    desk.Person.Expect(u"Please Confirm Before I Proceed"_s,
+                       u"Do you want me to move all the highlighted contacts to Houses?"_s, Answer::Yes);
+    // One that is refused does not keep the other from moving.
+    desk.Person.ExpectReport(u"Class Contact UpdtateDB Error #-2147217900"_s);
     const WhenMoveOpens chooser(1, 0);
     Entry(u"mnuMove"_s).trigger();
     QCOMPARE(gReturnValue, u"1-2"_s);
-    QCOMPARE(grid.Rows(), 2);
-    QCOMPARE(CategoryAt(1)->ContactCount, 3);
-    QCOMPARE(CategoryAt(1)->Sub(1)->ContactCount, 2);
-    QCOMPARE(CategoryAt(2)->ContactCount, 1);
-    QCOMPARE(CategoryAt(2)->Sub(1)->ContactCount, 1);
-    QCOMPARE(FreshDatabase::Rows(u"Select CategoryID,SubCategoryID from Contacts Where ID=2"_s), QStringList{u"2|3"_s});
-    QCOMPARE(desk.Main->windowTitle(), u"Mine - 2 contacts in First home"_s);
-    QCOMPARE(curContact->RecID, 3);
+    QCOMPARE(grid.Rows(), 1);
+    QCOMPARE(CategoryAt(1)->ContactCount, 2);
+    QCOMPARE(CategoryAt(1)->Sub(1)->ContactCount, 1);
+    QCOMPARE(CategoryAt(2)->ContactCount, 2);
+    QCOMPARE(CategoryAt(2)->Sub(1)->ContactCount, 2);
+    QCOMPARE(FreshDatabase::Rows(u"Select ID,CategoryID,SubCategoryID from Contacts Where ID in (2,3)"_s),
+             (QStringList{u"2|1|1"_s, u"3|2|3"_s}));
+    QCOMPARE(desk.Main->windowTitle(), u"Mine - 1 contact in First home"_s);
+    QCOMPARE(curContact->RecID, 1);
 }
 
 void tst_ContactList::AMoveToTheSameSubcategoryIsRefused()

@@ -16,6 +16,7 @@ class tst_Rolodex : public QObject
 private Q_SLOTS:
     void ALetterShowsItsContactsUnsorted();
     void SelectionShowsInEitherView();
+    void ManyAreSelectedAndUnselectedTogether();
     void UnselectingAllEmptiesTheSelectedView();
     void TheMenuOffersTheOtherState();
     void KeysDoWhatTheMouseDoes();
@@ -98,6 +99,22 @@ void tst_Rolodex::SelectionShowsInEitherView()
     QCOMPARE(desk.Cards().Columns(), 1);
     QCOMPARE(desk.Cards().Column(1).Width, 298);
     QCOMPARE(desk.Cards().CellColor(1, 1), Theme::Green);
+}
+
+void tst_Rolodex::ManyAreSelectedAndUnselectedTogether()
+{
+    RolodexDesk desk;
+    desk.ClickLetter(u'D');
+    SelectContacts({1, 3, 4}, true);
+    QCOMPARE(desk.Cards().CellColor(2, 1), Theme::Green);
+    SelectContacts({3, 2}, false);
+    QCOMPARE(gSelected.Ids(), (std::vector<Long>{1, 4}));
+    QCOMPARE(desk.Cards().CellColor(1, 1), Theme::Green);
+    QVERIFY(desk.Cards().CellColor(2, 1) != Theme::Green);
+    desk.Browser->mnuSelectedToRolodex_Click();
+    // What is done before a contact that is gone stays done, here too.
+    QVERIFY_THROWS_EXCEPTION(RunTimeError, SelectContacts({1, 99, 4}, false));
+    QCOMPARE(desk.Texts(2), QStringList{u"Dee Fox"_s});
 }
 
 void tst_Rolodex::UnselectingAllEmptiesTheSelectedView()

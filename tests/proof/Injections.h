@@ -25,6 +25,7 @@ inline QList<Injection> Injections()
         {"a second statement", u"x'; Delete * from Contacts; Update Contacts set MI='"_s},
         {"another Where", u"x' Where '1'='1"_s},
         {"an or", u"x' or 'a'='a"_s},
+        {"a sum of two texts", u"rock 'and' roll"_s},
         {"another column", u"x', Notes='y"_s},
         {"a second row", u"a',1),('b"_s},
         {"a second row by union", u"a',1) union all values ('b"_s},

@@ -216,17 +216,21 @@ void tst_HostileText::TryText(const Way& way, const Injection& injection)
     way.Write(injection.Text);
     const QStringList reports = m_listener->Take();
     const Difference difference(before, FreshDatabase::WholeFile());
-    const qsizetype apostrophes = injection.Text.count(u'\'');
     const bool written = reports.isEmpty() || way.StaysWhenRefused;
 
     QCOMPARE(difference.Gone.size(), written && !way.AddsARow ? 1 : 0);
     QCOMPARE(difference.New.size(), written ? 1 : 0);
     if (way.Protected && !way.StaysWhenRefused)
         QCOMPARE(reports, QStringList());
-    if (way.Protected || apostrophes == 0)
-        QCOMPARE(Stored(way, difference.New.value(0)), injection.Text);
+    // Unprotected, a pair of apostrophes side by side is one; any other has to be refused, never worked out.
+    QString inside = injection.Text;
+    if (!way.Protected)
+        inside.remove(u"''"_s);
+    if (way.Protected || !inside.contains(u'\''))
+        QCOMPARE(Stored(way, difference.New.value(0)),
+                 way.Protected ? injection.Text : QString(injection.Text).replace(u"''"_s, u"'"_s));
     else
-        QVERIFY2(apostrophes % 2 == 0 || !reports.isEmpty(), "an open literal has to be refused");
+        QVERIFY2(!reports.isEmpty(), "an apostrophe has to be refused");
     LivesOn();
 }
 

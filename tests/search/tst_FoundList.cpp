@@ -4,6 +4,7 @@
 #include "model/faces.h"
 #include "model/Openers.h"
 #include "model/PropDetail.h"
+#include "model/ShowContact.h"
 
 #include <QApplication>
 
@@ -25,6 +26,8 @@ private Q_SLOTS:
     void RemovingRowsLeavesTheCount();
     void AContactIsViewedInItsList();
     void APropertyIsViewedInItsList();
+    void TheSubcategoryOfAViewedPropertyIsTheCurrentOne();
+    void ThePopupActsOnWhatItNames();
     void DeletingContacts_data();
     void DeletingContacts();
     void DeletingTheDefaultPropertyIsTold();
@@ -34,6 +37,7 @@ private Q_SLOTS:
     void ANoKeepsEverything();
     void AContactThatIsGoneIsReportedOnce();
     void APropertyThatIsGoneIsReportedAndTheOthersGo();
+    void WhereTheFirstOwnerIsGoneNothingElseBecomesCurrent();
     void AnEditedContactIsRedrawn();
 
 private:
@@ -199,6 +203,14 @@ void tst_FoundList::RemovingRowsLeavesTheCount()
     QCOMPARE(desk.Found().Rows(), 1);
     QCOMPARE(desk.FoundMenus(), QStringList{});
     QCOMPARE(gContacts.Count(), 3);
+
+    desk.Properties();
+    desk.Search();
+    desk.Press(desk.Found(), 2);
+    desk.Entry("mnuClearHilitedProperties").trigger();
+    QCOMPARE(desk.Texts(u"Address1"), (QStringList{u"1 Elm St"_s, u"3 Oak Ave"_s}));
+    QCOMPARE(desk.Heading(), u"3 properties found"_s);
+    QCOMPARE(desk.Database.TakeStatements(), QStringList{});
 }
 
 void tst_FoundList::AContactIsViewedInItsList()
@@ -232,6 +244,46 @@ void tst_FoundList::APropertyIsViewedInItsList()
     QCOMPARE(opened, u"3 of Bob"_s);
     QCOMPARE(Face<TreeFace>::Get()->SelectedKey(), u"S1"_s);
     gOpeners = before;
+}
+
+void tst_FoundList::TheSubcategoryOfAViewedPropertyIsTheCurrentOne()
+{
+    SearchDesk desk;
+    curCategoryID = 1;
+    const auto second = std::make_shared<Category>();
+    second->Description = u"Second home"_s;
+    second->ParentID = 1;
+    CreateASubCategory(second, false);
+    ContactAt(2)->subCategoryID = 2;
+    ContactAt(2)->DefaultProperty = 3;
+    curContact = ContactAt(1);
+    ShowContact(); // the list of the first home stands open
+    desk.Main().ShowTab(1);
+    desk.Properties();
+    desk.Search();
+    desk.Press(desk.Found(), 3);
+    {
+        const WhenFormOpens opened(u"frmPropertyList"_s, [](Form& form) { TypeKey(form, Qt::Key_Escape); });
+        TypeKey(desk.Main(), Qt::Key_Return);
+    }
+    QCOMPARE(Face<TreeFace>::Get()->SelectedKey(), u"S2"_s);
+    QCOMPARE(CategoryAt(curCategoryID)->Sub(curSubIndex)->RecID, 2);
+}
+
+void tst_FoundList::ThePopupActsOnWhatItNames()
+{
+    SearchDesk desk;
+    desk.Search();
+    Grid& found = desk.Found();
+    found.SelectCell(3, 1);
+    found.SetRowSelected(3, false);
+    found.SetRowSelected(1, true);
+    // Below the last row, where no row is pressed.
+    QTest::mouseClick(found.viewport(), Qt::RightButton, {}, QPoint(20, found.viewport()->height() - 4));
+    QCOMPARE(desk.Entry("mnuClearHilitedContacts").text(), u"Remove Cy Day from the Found List"_s);
+    desk.Menu("mnuHilitedContacts").close();
+    desk.Entry("mnuClearHilitedContacts").trigger();
+    QCOMPARE(desk.Texts(u"Name"), (QStringList{u"Ann Lee"_s, u"Bob M Ray"_s}));
 }
 
 void tst_FoundList::DeletingContacts_data()
@@ -378,6 +430,22 @@ void tst_FoundList::APropertyThatIsGoneIsReportedAndTheOthersGo()
     desk.Entry("mnuDeleteFoundProp").trigger();
     QCOMPARE(desk.Texts(u"Address1"), QStringList{u"2 Elm St"_s});
     QCOMPARE(FreshDatabase::Rows(u"Select ID from PropDetail"_s), QStringList{u"2"_s});
+}
+
+void tst_FoundList::WhereTheFirstOwnerIsGoneNothingElseBecomesCurrent()
+{
+    SearchDesk desk;
+    ContactAt(1)->DefaultProperty = 0;
+    desk.Properties();
+    desk.Search();
+    desk.Press(desk.Found(), 3);
+    gContacts.Remove(1);
+    desk.Person.Expect(question, u"Do you want me to permanently delete B-3?"_s, Answer::Yes);
+    desk.Person.Expect(u"frmMain ShowHowManyFound Error #424"_s, u"Object required"_s);
+    TypeKey(desk.Main(), Qt::Key_Delete);
+    QCOMPARE(desk.Heading(), u"2 properties found"_s);
+    QCOMPARE(curContact->RecID, 2);
+    QCOMPARE(curPropertyID, 3);
 }
 
 void tst_FoundList::AnEditedContactIsRedrawn()

@@ -37,6 +37,7 @@ private Q_SLOTS:
     void ABadDateKeepsTheWindow_data();
     void ABadDateKeepsTheWindow();
     void TheCalendarServesTheDateWithTheFocus();
+    void AFieldThatIsWorkedInKeepsItsCaret();
     void ACancelledCalendarEmptiesTheDate();
     void TheCalendarsAnswerIsNotTheWindows();
     void ASecondDateThatIsHiddenAndBadIsShown();
@@ -129,15 +130,21 @@ void tst_SearchDialogs::OneInputIsSeen()
 void tst_SearchDialogs::ListsOfValues()
 {
     const frmSetValue form(u"Property Type"_s, ValueInput::cboPropType, {});
-    const auto entries = [&form](const char* list) {
+    const auto ends = [&form](const char* list) {
         const auto& box = Control<QComboBox>(form, QString::fromLatin1(list));
         return box.currentIndex() < 0 ? box.itemText(0) + u".."_s + box.itemText(box.count() - 1) : u"chosen"_s;
     };
-    QCOMPARE(entries("cboPropType"), u"Condominium..Villa"_s);
-    QCOMPARE(entries("cboYesNo"), u"Yes..No"_s);
-    QCOMPARE(entries("cboRentalBasis"), u"Daily..Weekly"_s);
-    QCOMPARE(entries("cboPool"), u"Above Ground..In Ground"_s);
-    QCOMPARE(entries("cboState"), u"AL..WY"_s);
+    const std::pair<const char*, const char*> lists[]{{"cboPropType", "Condominium..Villa"},
+                                                      {"cboYesNo", "Yes..No"},
+                                                      {"cboRentalBasis", "Daily..Weekly"},
+                                                      {"cboPool", "Above Ground..In Ground"},
+                                                      {"cboState", "AL..WY"},
+                                                      {"cboConstruction", "Asbestos..Stucco"},
+                                                      {"cboFloor", "Brick/Stone..Wood"},
+                                                      {"cboRoof", "Built Up..Tile"},
+                                                      {"cboParking", "1 Car Carport..Covered Parking"}};
+    for (const auto& [list, wanted] : lists)
+        QCOMPARE(ends(list), QString::fromLatin1(wanted));
 }
 
 void tst_SearchDialogs::ACancelledValueIsNone_data()
@@ -248,6 +255,25 @@ void tst_SearchDialogs::TheCalendarServesTheDateWithTheFocus()
         TypeKey(form, Qt::Key_Return);
     });
     QCOMPARE(gReturnValue, u"From 01/05/2026 To 11/22/2026"_s);
+}
+
+void tst_SearchDialogs::AFieldThatIsWorkedInKeepsItsCaret()
+{
+    Work<frmDate>("frmDate", [](Form& form) {
+        auto& entry = Edit(form, "txtDate1");
+        TypeText(form, u"01/05"_s);
+        for (const Qt::FocusReason reason : {Qt::PopupFocusReason, Qt::ActiveWindowFocusReason}) {
+            QFocusEvent back(QEvent::FocusIn, reason);
+            QCoreApplication::sendEvent(&entry, &back);
+            QTest::qWait(0);
+            QVERIFY(!entry.hasSelectedText());
+        }
+        QFocusEvent come(QEvent::FocusIn, Qt::TabFocusReason);
+        QCoreApplication::sendEvent(&entry, &come);
+        QTest::qWait(0);
+        QCOMPARE(entry.selectedText(), u"01/05"_s);
+        TypeKey(form, Qt::Key_Escape);
+    });
 }
 
 void tst_SearchDialogs::ACancelledCalendarEmptiesTheDate()

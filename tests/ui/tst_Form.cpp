@@ -27,6 +27,7 @@ public:
     bool Refuses = false;
     bool UnloadsAll = false;
     bool SwallowsEnter = false;
+    Window* TakesAlong = nullptr; ///< goes, object and all, when this one is unloaded
 
 protected:
     void Form_Activate() override { happened.append(Name() + u" activate"_s); }
@@ -40,6 +41,7 @@ protected:
     void Form_Unload(bool&) override
     {
         happened.append(Name() + u" unload"_s);
+        delete TakesAlong;
         if (UnloadsAll)
             UnloadAllForms({});
     }
@@ -69,6 +71,7 @@ private Q_SLOTS:
     void the_main_window_takes_everything_along_once();
     void the_main_window_ends_modal_loops_above_it();
     void an_owner_takes_its_windows_along();
+    void a_window_that_goes_may_take_its_neighbour_along();
     void keys_pass_the_window_first();
     void a_centred_window_stands_in_the_middle_and_fits();
     void controls_scale_with_the_window();
@@ -226,6 +229,21 @@ void tst_Form::an_owner_takes_its_windows_along()
     happened.clear();
     a->Unload();
     QCOMPARE(happened, (QStringList{u"frmA query 1"_s, u"frmA unload"_s, u"frmB query 5"_s, u"frmB unload"_s}));
+}
+
+void tst_Form::a_window_that_goes_may_take_its_neighbour_along()
+{
+    auto* a = new Window(u"frmA"_s);
+    auto* b = new Window(u"frmB"_s);
+    auto* c = new Window(u"frmC"_s);
+    a->Show();
+    b->Show(a);
+    c->Show(a);
+    QTest::qWait(20);
+    b->TakesAlong = c;
+    happened.clear();
+    a->Unload();
+    QVERIFY(!happened.contains(u"frmC query 5"_s));
 }
 
 void tst_Form::keys_pass_the_window_first()

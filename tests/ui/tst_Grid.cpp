@@ -4,6 +4,7 @@
 #include "ui/widgets/Grid.h"
 
 #include <QAbstractItemModelTester>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QSignalSpy>
@@ -33,6 +34,7 @@ private Q_SLOTS:
     void hiding_the_current_row_moves_on();
     void a_right_press_data();
     void a_right_press();
+    void the_menu_key_is_a_right_press_on_the_current_row();
     void removing_the_current_row();
     void removing_what_is_highlighted_from_the_end_stops_there();
     void many_rows_go_at_once();
@@ -343,6 +345,31 @@ void tst_Grid::a_right_press()
     QCOMPARE(atMouseUp, after);
     QCOMPARE(spy.count(), changes);
     QCOMPARE(m_grid->SelectedRow(), after.contains(press) && after.size() == 1 ? press : highlighted.first());
+}
+
+void tst_Grid::the_menu_key_is_a_right_press_on_the_current_row()
+{
+    Fill({u"a"_s, u"b"_s, u"c"_s, u"d"_s});
+    QList<QPoint> asked;
+    connect(m_grid.get(), &Grid::MenuKey, m_grid.get(), [&asked](QPoint position) { asked << position; });
+    const auto ask = [this] {
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+        QCoreApplication::sendEvent(m_grid.get(), &event);
+    };
+    ask();
+    QCOMPARE(Highlighted(), QList<int>());
+    m_grid->SelectCell(3, 2);
+    m_grid->ClearHighlight();
+    m_grid->SetRowSelected(1, true);
+    ask();
+    QCOMPARE(Highlighted(), QList<int>{3});
+    QCOMPARE(m_grid->SelectedCol(), 2);
+    m_grid->SetRowSelected(1, true);
+    QTest::keyClick(m_grid.get(), Qt::Key_F10, Qt::ShiftModifier);
+    QCOMPARE(Highlighted(), (QList<int>{1, 3}));
+    const QPoint corner = m_grid->viewport()->mapToGlobal(QPoint());
+    const QPoint below = m_grid->viewport()->mapToGlobal(m_grid->visualRect(m_grid->model()->index(2, 0)).bottomLeft());
+    QCOMPARE(asked, (QList<QPoint>{corner, below, below}));
 }
 
 void tst_Grid::removing_the_current_row()

@@ -88,7 +88,7 @@ void Connection::Record(const QString& statement) const
 Engine& Connection::OpenEngine()
 {
     if (!m_engine)
-        throw RunTimeError(3709);
+        throw RunTimeError(ErrorNumber::ConnectionClosed);
     return *m_engine;
 }
 

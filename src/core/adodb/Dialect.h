@@ -13,14 +13,14 @@ struct TranslatedStatement
     QString UpdatableTable;         ///< the table of a plain "Select * from T ...", otherwise empty
 };
 
-/// Gives a statement its meaning on this engine. The statement is read by a lexer that knows literals, bracketed names
-/// and numbers, never by text replacement, so that no text in a field can change what the statement is:
-/// - exactly one statement; "--", "/*", ";" and an open literal are syntax errors, since the language that these texts
-/// are
-///   written in has no comments;
+/// Gives a statement its meaning on this engine. The statement is read by a lexer (Lexer.h) that knows literals,
+/// bracketed names and numbers, never by text replacement, and held against what the program's statements are
+/// (StatementRules.h), so that no text in a field can change what a statement does:
+/// - exactly one statement; "--", "/*", ";" and an open literal are syntax errors (the language that these texts are
+///   written in has no comments);
 /// - "Delete * from" is "Delete from"; "A RIGHT JOIN B ON c" is "B LEFT JOIN A ON c";
-/// - "in ()" and a second row behind Values are errors;
 /// - double quotes delimit text, brackets names.
+///
 /// Text and number literals are lifted into bound values, but for those of an "in (...)" list and for statements with
 /// more than 64 of them, which are prepared as they stand. Raises ErrorNumber::EngineSyntax.
 [[nodiscard]] TranslatedStatement Translate(const QString& statement);

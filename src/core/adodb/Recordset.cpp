@@ -75,7 +75,7 @@ void Recordset::Save(const QString& fileName, bool secret) const
 {
     RequireOpen();
     if (m_table.isEmpty())
-        throw RunTimeError(3219);
+        throw RunTimeError(ErrorNumber::NotAllowedHere);
     std::vector<RowsetColumn> columns;
     for (int i = 0; i < FieldCount(); ++i) {
         const Engine::Declaration declared = m_connection->OpenEngine().Declared(m_table, FieldName(i));
@@ -90,7 +90,7 @@ void Recordset::Save(const QString& fileName, bool secret) const
 void Recordset::Fetch()
 {
     if (m_connection == nullptr)
-        throw RunTimeError(3219);
+        throw RunTimeError(ErrorNumber::NotAllowedHere);
     Engine& engine = m_connection->OpenEngine();
     m_connection->Record(m_statement);
     const TranslatedStatement translated = Translate(m_statement);
@@ -157,7 +157,7 @@ void Recordset::Find(const QString& criterion)
     RequireOpen();
     const qsizetype equals = criterion.indexOf(u'=');
     if (equals < 0)
-        throw RunTimeError(3001);
+        throw RunTimeError(ErrorNumber::WrongArguments);
     const int column = Asked(m_rows->Columns().Find(QStringView(criterion).left(equals).trimmed()));
     QString wanted = criterion.mid(equals + 1).trimmed();
     if (wanted.size() >= 2 && wanted.startsWith(u'\'') && wanted.endsWith(u'\''))
@@ -206,6 +206,12 @@ int Recordset::Asked(int column) const
     return column;
 }
 
+void Recordset::RunOnStore(const QString& text, const std::vector<QVariant>& values)
+{
+    m_connection->Counted(
+        [&] { static_cast<void>(m_connection->OpenEngine().Prepare(text, values, true)->Step()); });
+}
+
 void Recordset::Update()
 {
     RequireRow();
@@ -219,8 +225,7 @@ void Recordset::Update()
         values.push_back(ToLiteral(value));
     }
     values.push_back(RowId());
-    const auto running = m_connection->OpenEngine().Prepare(text + u" WHERE rowid=?"_s, values, true);
-    (void)running->Step();
+    RunOnStore(text + u" WHERE rowid=?"_s, values);
     for (auto& [column, value] : m_pending)
         m_rows->SetValue(m_row, column, std::move(value));
     m_pending.clear();
@@ -230,9 +235,7 @@ void Recordset::Delete()
 {
     RequireRow();
     RequireUpdatable();
-    const auto running =
-        m_connection->OpenEngine().Prepare(u"DELETE FROM [%1] WHERE rowid=?"_s.arg(m_table), {RowId()}, true);
-    (void)running->Step();
+    RunOnStore(u"DELETE FROM [%1] WHERE rowid=?"_s.arg(m_table), {RowId()});
     m_rows->MarkDeleted(m_row);
     m_pending.clear();
 }
@@ -267,7 +270,7 @@ void Recordset::RequireRow() const
 void Recordset::RequireUpdatable() const
 {
     if (m_table.isEmpty())
-        throw RunTimeError(3251);
+        throw RunTimeError(ErrorNumber::NotUpdatable);
 }
 
 qint64 Recordset::RowId() const

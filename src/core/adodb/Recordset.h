@@ -109,6 +109,8 @@ private:
     void RequireRow() const;
     void RequireUpdatable() const;
     [[nodiscard]] qint64 RowId() const;
+    /// Runs a statement of this recordset's own, whose failure counts as the connection's.
+    void RunOnStore(const QString& text, const std::vector<QVariant>& values);
     /// The column where it is one of those that were asked for. Raises 3265 otherwise.
     [[nodiscard]] int Asked(int column) const;
 

@@ -8,7 +8,7 @@ class Engine;
 
 /// Statements that share commits. A commit comes after each so many of them and at the end. A statement that fails
 /// changes nothing and commits all before it, so that the file is as it would be had each been committed alone; only
-/// where the power fails those since the last commit are gone.
+/// where the program is killed or the power fails those since the last commit are gone.
 class StatementBatch
 {
 public:

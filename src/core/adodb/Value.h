@@ -31,7 +31,6 @@ public:
 
     // The same with Null read as 0.
     [[nodiscard]] Long LongOrZero() const { return IsNull() ? 0 : ToLong(); }
-    [[nodiscard]] Integer IntegerOrZero() const { return IsNull() ? Integer{0} : ToInteger(); }
     [[nodiscard]] Single SingleOrZero() const { return IsNull() ? 0.0F : ToSingle(); }
     [[nodiscard]] Currency CurrencyOrZero() const { return IsNull() ? Currency{} : ToCurrency(); }
 

@@ -229,7 +229,7 @@ std::vector<std::size_t> frmCreateWordFile::TickedRows() const
     std::vector<std::size_t> rows;
     for (int row = 1; row <= grid.Rows(); ++row) {
         if (grid.RowVisible(row) && grid.RowItemData(row) == ticked)
-            rows.push_back(std::size_t(row) - 1);
+            rows.push_back(static_cast<std::size_t>(row) - 1);
     }
     return rows;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/Types.h"
 #include "ui/widgets/Form.h"
 
 #include <memory>

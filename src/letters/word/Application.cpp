@@ -18,7 +18,8 @@ Document& Documents::Add(DocumentKind kind)
 
 int Documents::Count() const
 {
-    return int(std::ranges::count_if(m_documents, [](const auto& document) { return !document->IsClosed(); }));
+    return static_cast<int>(
+        std::ranges::count_if(m_documents, [](const auto& document) { return !document->IsClosed(); }));
 }
 
 Document& Documents::Active() const
@@ -37,7 +38,7 @@ void MailingLabel::CreateNewDocument(const LabelWish& wish)
     const Story layout = wish.Address.isEmpty()
                              ? m_application->NormalTemplate().AutoTextEntries().Item(wish.AutoText).Text()
                              : Story(wish.Address);
-    pages.Labels.assign(std::size_t(pages.Sheet.PerSheet()), layout);
+    pages.Labels.assign(static_cast<std::size_t>(pages.Sheet.PerSheet()), layout);
     document.LabelSheets = std::move(pages);
 }
 

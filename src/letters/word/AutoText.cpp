@@ -34,7 +34,7 @@ const AutoTextEntry& AutoTextEntries::Item(const QString& name) const
     return **found;
 }
 
-void AutoTextEntries::Remove(const QString& name)
+void AutoTextEntries::Remove(QString name)
 {
     std::erase_if(m_entries, [&](const auto& entry) { return entry->Name().compare(name, Qt::CaseInsensitive) == 0; });
 }

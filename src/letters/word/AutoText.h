@@ -36,11 +36,12 @@ public:
     AutoTextEntry& Add(const QString& name, const Range& range);
     /// Without regard to case; raises 5941 where there is none.
     [[nodiscard]] const AutoTextEntry& Item(const QString& name) const;
-    [[nodiscard]] int Count() const { return int(m_entries.size()); }
+    [[nodiscard]] int Count() const { return static_cast<int>(m_entries.size()); }
 
 private:
     friend class AutoTextEntry;
-    void Remove(const QString& name);
+    /// By value: the name may be that of the entry that goes.
+    void Remove(QString name);
 
     std::vector<std::unique_ptr<AutoTextEntry>> m_entries;
 };

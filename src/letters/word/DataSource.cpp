@@ -48,7 +48,7 @@ DataSource DataSource::FromBytes(const QByteArray& bytes)
     if (lines.isEmpty())
         return source;
     source.m_columns = lines.constFirst().split(u'\t');
-    source.m_records.reserve(std::size_t(lines.size()) - 1);
+    source.m_records.reserve(static_cast<std::size_t>(lines.size()) - 1);
     for (qsizetype i = 1; i < lines.size(); ++i)
         source.m_records.push_back(lines[i].split(u'\t'));
     return source;
@@ -66,7 +66,7 @@ qsizetype DataSource::ColumnOf(const QString& name) const
 
 QString DataSource::Value(qsizetype record, qsizetype column) const
 {
-    return m_records[std::size_t(record)].value(column);
+    return m_records[static_cast<std::size_t>(record)].value(column);
 }
 
 } // namespace Word

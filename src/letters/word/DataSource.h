@@ -21,7 +21,7 @@ public:
     [[nodiscard]] const QStringList& Columns() const { return m_columns; }
     /// The first column of that name, without regard to case; -1 where there is none.
     [[nodiscard]] qsizetype ColumnOf(const QString& name) const;
-    [[nodiscard]] qsizetype RecordCount() const { return qsizetype(m_records.size()); }
+    [[nodiscard]] qsizetype RecordCount() const { return static_cast<qsizetype>(m_records.size()); }
     [[nodiscard]] QString Value(qsizetype record, qsizetype column) const;
 
 private:

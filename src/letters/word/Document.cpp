@@ -63,9 +63,9 @@ Word::Range Document::Range(qsizetype start, qsizetype end)
 
 Section& Document::Sections(int index)
 {
-    if (index < 1 || std::size_t(index) > AllSections.size())
+    if (index < 1 || static_cast<std::size_t>(index) > AllSections.size())
         throw Error::MemberMissing();
-    return *AllSections[std::size_t(index) - 1];
+    return *AllSections[static_cast<std::size_t>(index) - 1];
 }
 
 void Document::Close(bool /*saveChanges*/)

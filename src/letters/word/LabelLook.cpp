@@ -28,7 +28,7 @@ int WidthOf(QStringView text)
     int width = 0;
     for (const QChar c : text) {
         if (c >= u' ' && c <= u'~')
-            width += widths[std::size_t(c.unicode() - u' ')];
+            width += widths[static_cast<std::size_t>(c.unicode() - u' ')];
         else
             width += c.isUpper() ? capital : other;
     }
@@ -39,7 +39,7 @@ int WidthOf(QStringView text)
 
 int Twips(int length)
 {
-    return int(std::lround(length * 1440.0 / 2540.0));
+    return static_cast<int>(std::lround(length * 1440.0 / 2540.0));
 }
 
 int LineHeight(int halfPoints)
@@ -65,7 +65,7 @@ int FittingSize(const Story& label, const LabelLook& look)
     int widest = 1;
     for (const QString& line : label.Text(0, label.Length() - 1).split(u'\r'))
         widest = std::max(widest, WidthOf(line));
-    const auto fitting = int(room * 1000 / (double(widest) * twipsOfHalfPoint));
+    const auto fitting = static_cast<int>(room * 1000 / (static_cast<double>(widest) * twipsOfHalfPoint));
     return std::clamp(fitting, smallestOnLabel, look.HalfPoints);
 }
 

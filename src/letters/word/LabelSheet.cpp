@@ -32,7 +32,7 @@ LabelSheet FindLabelSheet(const QString& brand, const QString& number)
         const QStringList values = line.mid(wanted.size()).split(u',');
         LabelSheet sheet;
         for (std::size_t i = 0; i < columns.size(); ++i)
-            sheet.*columns[i] = values.value(qsizetype(i)).toInt();
+            sheet.*columns[i] = values.value(static_cast<qsizetype>(i)).toInt();
         return sheet;
     }
     throw RunTimeError(Error::NoSuchLabel, number.isEmpty()

@@ -24,7 +24,7 @@ public:
 
     void WriteAll()
     {
-        const std::size_t perSheet = std::size_t(m_sheet.PerSheet());
+        const std::size_t perSheet = static_cast<std::size_t>(m_sheet.PerSheet());
         for (std::size_t first = 0; first < m_pages.Labels.size(); first += perSheet) {
             WriteTable(first);
             // A table never ends a page: the smallest of paragraphs stands behind it, and starts the next sheet's page.
@@ -111,7 +111,7 @@ private:
 
     [[nodiscard]] const Story* LabelAt(std::size_t first, int row, int column) const
     {
-        const std::size_t index = first + std::size_t(row * m_sheet.Across + column);
+        const std::size_t index = first + static_cast<std::size_t>(row * m_sheet.Across + column);
         return column >= 0 && index < m_pages.Labels.size() ? &m_pages.Labels[index] : nullptr;
     }
 

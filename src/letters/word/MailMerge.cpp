@@ -102,7 +102,7 @@ void MailMerge::MergeLetters(Document& merged) const
     const Section& main = *m_document->AllSections.front();
     const MergeText text(main.Body, *m_source);
     merged.AllSections.clear();
-    merged.AllSections.reserve(std::size_t(m_source->RecordCount()));
+    merged.AllSections.reserve(static_cast<std::size_t>(m_source->RecordCount()));
     for (qsizetype record = 0; record < m_source->RecordCount(); ++record) {
         // The copy is the record's alone; header and footer are the main document's.
         auto section = std::make_unique<Section>(main.WithBody(text.For(record, true)));
@@ -115,7 +115,7 @@ void MailMerge::MergeLabels(Document& merged) const
     const LabelPages& main = *m_document->LabelSheets;
     LabelPages& pages = merged.LabelSheets.emplace(LabelPages{main.Sheet, main.LaserTray, {}});
     const MergeText text(main.Labels.front(), *m_source);
-    pages.Labels.reserve(std::size_t(m_source->RecordCount()));
+    pages.Labels.reserve(static_cast<std::size_t>(m_source->RecordCount()));
     for (qsizetype record = 0; record < m_source->RecordCount(); ++record)
         pages.Labels.push_back(text.For(record, false));
 }

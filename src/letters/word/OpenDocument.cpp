@@ -87,7 +87,7 @@ QString WriteToCache(const Document& document)
     static std::array<int, 3> counts{};
     const QString folder = RunFolder();
     const QString name = NameOf(document.Kind());
-    int& count = counts[std::size_t(document.Kind())];
+    int& count = counts[static_cast<std::size_t>(document.Kind())];
     const QString path = folder + u'/' + name + QString::number(++count) + u".docx"_s;
     document.SaveAs(path);
     QFile::setPermissions(path, ownerFile);

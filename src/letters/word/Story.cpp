@@ -123,15 +123,6 @@ qsizetype Story::InsertField(qsizetype at, const QString& name, bool bold)
     return at + field.Length();
 }
 
-qsizetype Story::InsertStory(qsizetype at, const Story& other)
-{
-    const std::vector<Piece> added(other.m_pieces.begin(), other.m_pieces.end() - 1);
-    const auto place = m_pieces.begin() + qptrdiff(CutAt(at));
-    m_pieces.insert(place, added.begin(), added.end());
-    m_length += other.m_length - 1;
-    return at + other.m_length - 1;
-}
-
 void Story::SetBold(qsizetype start, qsizetype end, bool bold)
 {
     if (start >= end)

@@ -42,8 +42,6 @@ public:
     /// paragraph.
     qsizetype Insert(qsizetype at, const QString& text, bool bold);
     qsizetype InsertField(qsizetype at, const QString& name, bool bold);
-    /// Puts in what another text holds before its last mark.
-    qsizetype InsertStory(qsizetype at, const Story& other);
     void SetBold(qsizetype start, qsizetype end, bool bold);
     /// Takes a stretch away; the last mark stays.
     void Delete(qsizetype start, qsizetype end);

@@ -1,6 +1,5 @@
 #include "ui/frame/frmMain.h"
 
-#include "core/Clock.h"
 #include "core/Convert.h"
 #include "core/Dates.h"
 #include "core/Format.h"

@@ -90,7 +90,6 @@ bool Form::Unload(UnloadMode mode)
 {
     if (m_unloading || m_unloaded)
         return m_unloaded;
-    const QPointer<Form> alive(this);
     {
         const QScopedValueRollback<bool> unloading(m_unloading, true);
         bool cancel = false;
@@ -102,7 +101,7 @@ bool Form::Unload(UnloadMode mode)
     }
     m_unloaded = true;
     Forms::Remove(this);
-    for (const QPointer<Form> owned : Forms::OwnedBy(this))
+    for (const QPointer<Form>& owned : Forms::OwnedBy(this))
         if (!owned.isNull())
             owned->Unload(UnloadMode::OwnerClosed);
     if (isVisible() && !m_closing)
@@ -121,6 +120,23 @@ void Form::Form_Unload(bool&) {}
 bool Form::KeyPreview(QKeyEvent*)
 {
     return false;
+}
+
+bool Form::EnterIsOk(const QKeyEvent& event, const std::function<void()>& ok)
+{
+    if (event.type() != QEvent::KeyPress || (event.key() != Qt::Key_Return && event.key() != Qt::Key_Enter))
+        return false;
+    if (!event.isAutoRepeat())
+        ok();
+    return true;
+}
+
+int Form::TitleWidth() const
+{
+    constexpr int barRoom = 140; // what a title bar needs beside its text
+    constexpr int screenEdge = 40;
+    return std::min(fontMetrics().horizontalAdvance(windowTitle()) + barRoom,
+                    screen()->availableSize().width() - screenEdge);
 }
 
 bool Form::event(QEvent* event)

@@ -2,6 +2,7 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <functional>
 
 class QEventLoop;
 
@@ -49,6 +50,12 @@ protected:
     virtual void EscapePressed() {}
     /// Sees each key press and release of the window before its controls do; true swallows the key.
     virtual bool KeyPreview(QKeyEvent* event);
+    /// For the KeyPreview of a window in which Enter is Ok: true for a press of Enter, which runs `ok` unless the key
+    /// was still held down when the window came and has answered what was there before.
+    [[nodiscard]] static bool EnterIsOk(const QKeyEvent& event, const std::function<void()>& ok);
+
+    /// The width in which the title is not cut, or as much of it as the screen has.
+    [[nodiscard]] int TitleWidth() const;
 
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -75,12 +75,12 @@ void Forms::Leave(Form* form)
     beneath->QueueActivate();
 }
 
-QList<Form*> Forms::OwnedBy(const QWidget* owner)
+std::vector<QPointer<Form>> Forms::OwnedBy(const QWidget* owner)
 {
-    QList<Form*> owned;
+    std::vector<QPointer<Form>> owned;
     for (Form* form : std::as_const(loaded))
         if (form->m_owner == owner)
-            owned.append(form);
+            owned.emplace_back(form);
     return owned;
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QPointer>
 #include <QStringList>
+#include <vector>
 
 class Form;
 class QWidget;
@@ -24,7 +26,7 @@ private:
     static void Enter(Form* form);
     /// A window is no longer shown; the one beneath it becomes the active one.
     static void Leave(Form* form);
-    [[nodiscard]] static QList<Form*> OwnedBy(const QWidget* owner);
+    [[nodiscard]] static std::vector<QPointer<Form>> OwnedBy(const QWidget* owner);
 };
 
 /// Whether a window of this exact name is loaded.

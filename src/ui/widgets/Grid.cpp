@@ -9,6 +9,7 @@
 #include "ui/widgets/GridSort.h"
 #include "ui/widgets/KeyCodes.h"
 
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMetaMethod>
@@ -460,6 +461,10 @@ void Grid::keyPressEvent(QKeyEvent* event)
             Q_EMIT ColumnClick(SelectedCol());
         return;
     }
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+        AskForMenu();
+        return;
+    }
     // An Enter that is still held down, from the boxes and windows before, opens nothing in the list beneath.
     if (event->isAutoRepeat() && ascii == Key::Enter)
         return;
@@ -468,6 +473,31 @@ void Grid::keyPressEvent(QKeyEvent* event)
         Q_EMIT KeyPress(ascii);
     if (!alive.isNull())
         ByPerson([this, event] { QTableView::keyPressEvent(event); });
+}
+
+void Grid::contextMenuEvent(QContextMenuEvent* event)
+{
+    // The mouse's own is told by MouseUp.
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        AskForMenu();
+    else
+        event->ignore();
+}
+
+void Grid::AskForMenu()
+{
+    const bool alive = ByPerson([this] {
+        if (!currentIndex().isValid())
+            return;
+        scrollTo(currentIndex());
+        m_lateHighlight = false;
+        if (SelectionCount() < 2)
+            m_selection->select(currentIndex(), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    });
+    if (!alive)
+        return;
+    const QRect first = visualRect(currentIndex().siblingAtColumn(std::max(0, columnAt(0))));
+    Q_EMIT MenuKey(viewport()->mapToGlobal(first.isValid() ? first.bottomLeft() : QPoint()));
 }
 
 void Grid::keyboardSearch(const QString& text)

@@ -137,6 +137,9 @@ Q_SIGNALS:
     void MouseDown(Qt::MouseButton button);
     void MouseUp(Qt::MouseButton button, QPoint globalPosition);
     void MouseMove();
+    /// The menu key or Shift+F10: a popup belongs at `globalPosition`, below the current row. As a right press does, it
+    /// leaves a highlight of two or more rows alone; otherwise only the current row is highlighted, where there is one.
+    void MenuKey(QPoint globalPosition);
     /// A key that reaches the grid, before the grid's own use of it; `code` as KeyCode gives it: core/FieldRules.h for
     /// Delete, Enter, Esc.
     void KeyDown(int code);
@@ -146,6 +149,7 @@ Q_SIGNALS:
 
 protected:
     void changeEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyboardSearch(const QString& text) override;
@@ -165,6 +169,7 @@ private:
     class ByCode;
     template <typename Handler>
     bool ByPerson(Handler&& handler);
+    void AskForMenu();
     void CheckRow(int row) const;
     void CheckCell(int row, int column) const;
     [[nodiscard]] QModelIndex Cell(int row, int column) const;
@@ -193,6 +198,10 @@ int AddGridRow(Grid& grid, const QString& text, Long itemData = 0);
 void RemoveRowsOf(Grid& grid, const std::vector<Long>& itemData);
 /// Whether any cell of the row is highlighted.
 [[nodiscard]] bool AnySelectedCol(int row, const Grid& grid);
+/// The item data of those rows, from top to bottom.
+[[nodiscard]] std::vector<Long> HighlightedData(const Grid& grid);
+/// Shows by the look of a cell whether the row's contact is Selected: bold, italic and green, or the grid's own.
+void MarkCell(Grid& grid, int row, int column, bool selected);
 /// The sort of a click on a column header: by date where the column's first filled cell is a date, otherwise by the
 /// column's declared type. The direction is kept on column 1 whatever column was clicked, which is meant: the first
 /// click on a fresh grid sorts with direction 2 and each later click on any column flips it. Row 1 becomes the selected

@@ -68,7 +68,6 @@ public:
 
     // Telling the views.
     void Hold(bool on);
-    [[nodiscard]] bool IsHeld() const { return m_held; }
     void Publish();
 
 private:

@@ -1,6 +1,7 @@
 // The procedures that all lists share; declared at the end of Grid.h.
 #include "core/Dates.h"
 #include "ui/widgets/Grid.h"
+#include "ui/widgets/Theme.h"
 
 #include <unordered_set>
 
@@ -23,10 +24,31 @@ void RemoveRowsOf(Grid& grid, const std::vector<Long>& itemData)
 
 bool AnySelectedCol(int row, const Grid& grid)
 {
-    for (int column = 1; column <= grid.Columns(); ++column)
-        if (grid.CellSelected(row, column))
-            return true;
-    return false;
+    // Rows are highlighted whole.
+    return grid.Columns() > 0 && grid.CellSelected(row, 1);
+}
+
+std::vector<Long> HighlightedData(const Grid& grid)
+{
+    std::vector<Long> data;
+    for (int row = 1; row <= grid.Rows(); ++row)
+        if (AnySelectedCol(row, grid))
+            data.push_back(grid.RowItemData(row));
+    return data;
+}
+
+void MarkCell(Grid& grid, int row, int column, bool selected)
+{
+    if (!selected) {
+        grid.ResetCellFont(row, column);
+        grid.SetCellColor(row, column, QColor());
+        return;
+    }
+    QFont boldItalic = grid.font();
+    boldItalic.setBold(true);
+    boldItalic.setItalic(true);
+    grid.SetCellFont(row, column, boldItalic);
+    grid.SetCellColor(row, column, Theme::Green);
 }
 
 void SortGrid(Grid& grid, int column)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCursor>
 #include <QGuiApplication>
 
 /// Shows the normal pointer for the length of a scope, also under an hourglass: a window that waits for the person is

@@ -11,3 +11,16 @@ QString PlainText(const QPlainTextEdit& box)
     text.replace(QChar(QChar::ParagraphSeparator), u"\r\n"_s);
     return text.replace(QChar(QChar::LineSeparator), u"\r\n"_s); // Shift+Enter
 }
+
+void StoredText::Show(const QString& text)
+{
+    m_box.setPlainText(text);
+    m_stored = text;
+    m_asTyped = PlainText(m_box);
+}
+
+QString StoredText::Text() const
+{
+    const QString typed = PlainText(m_box);
+    return typed == m_asTyped ? m_stored : typed;
+}

@@ -98,11 +98,11 @@ public:
             return;
         }
         QProxyStyle::drawPrimitive(element, option, painter, widget);
-        if (element == PE_IndicatorRadioButton || element == PE_IndicatorCheckBox)
+        if (element == PE_IndicatorRadioButton || element == PE_IndicatorCheckBox || element == PE_FrameMenu)
             DrawRim(element == PE_IndicatorRadioButton, *option, *painter);
     }
 
-    /// Fusion's own rim around an option is darker than its ground, and can't be seen on a dark one.
+    /// Fusion's own rim around an option or a menu is darker than its ground, and can't be seen on a dark one.
     static void DrawRim(bool round, const QStyleOption& option, QPainter& painter)
     {
         if (option.palette.color(QPalette::Window).lightness() >= 128)

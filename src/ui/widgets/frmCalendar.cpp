@@ -19,7 +19,6 @@ namespace {
 
 constexpr int Cancel = 1;
 constexpr int Ok = 2;
-constexpr int TitleBarRoom = 140; // what a title bar needs beside its text
 
 } // namespace
 
@@ -37,10 +36,9 @@ frmCalendar::frmCalendar(const QString& caption, const QDate& value)
     auto* buttons = new HoverButtonArray(*this, *row, {{Ok, u"Ok"_s, u"Ok"_s}, {Cancel, u"Cancel"_s, u"Cancel"_s}});
     connect(buttons, &HoverButtonArray::Click, this, &frmCalendar::cmdButton_Click);
     connect(m_calendar, &QCalendarWidget::activated, this, &frmCalendar::OkClick);
-    const int room = screen()->availableSize().width() - 40;
     // On the calendar, not on the window: a window with a width of its own no longer keeps its layout's smallest
     // height.
-    m_calendar->setMinimumWidth(std::max(320, std::min(fontMetrics().horizontalAdvance(caption) + TitleBarRoom, room)));
+    m_calendar->setMinimumWidth(std::max(320, TitleWidth()));
     m_calendar->setFocus();
     CenterForm(*this);
 }
@@ -109,9 +107,10 @@ void frmCalendar::EscapePressed()
     Unload();
 }
 
-QString AskForDate(const QString& caption, const QDate& value)
+QString AskForDate(const QString& caption, const QString& text)
 {
-    frmCalendar form(caption, value);
+    const std::optional<Date> typed = ParseDate(text);
+    frmCalendar form(caption, typed ? ToDateTime(*typed).date() : Clock::Today());
     form.ShowModal(Forms::Active());
     gReturnValue = form.Reply();
     return gReturnValue;

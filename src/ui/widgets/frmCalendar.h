@@ -29,5 +29,6 @@ private:
     QString m_reply;
 };
 
-/// Shows frmCalendar and waits for its reply: "mm/dd/yyyy", "" where the person cancelled; gReturnValue is the same.
-QString AskForDate(const QString& caption, const QDate& value);
+/// Shows frmCalendar on the day that `text` tells, else on today, and waits for its reply: "mm/dd/yyyy", "" where the
+/// person cancelled; gReturnValue is the same.
+QString AskForDate(const QString& caption, const QString& text = {});

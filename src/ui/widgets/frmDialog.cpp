@@ -11,7 +11,6 @@ namespace {
 
 constexpr int Cancel = 1;
 constexpr int Ok = 2;
-constexpr int TitleBarRoom = 140; // what a title bar needs beside its text
 
 } // namespace
 
@@ -23,9 +22,7 @@ frmDialog::frmDialog(const QString& caption, int maxLength)
     m_ui->txtInput->setAccessibleName(caption);
     if (maxLength > 0)
         m_ui->txtInput->setMaxLength(maxLength);
-    const int room = screen()->availableSize().width() - 40;
-    const int title = std::min(fontMetrics().horizontalAdvance(caption) + TitleBarRoom, room);
-    setMinimumWidth(std::max(title, minimumSizeHint().width()));
+    setMinimumWidth(std::max(TitleWidth(), minimumSizeHint().width()));
     auto* buttons = new HoverButtonArray(*this, {{Cancel, u"Cancel"_s, u"Cancel"_s}, {Ok, u"Ok"_s, u"Ok"_s}});
     connect(buttons, &HoverButtonArray::Click, this, &frmDialog::cmdButton_Click);
     m_ui->txtInput->setFocus();
@@ -42,10 +39,7 @@ void frmDialog::cmdButton_Click(int index)
 
 bool frmDialog::KeyPreview(QKeyEvent* event)
 {
-    if (event->type() != QEvent::KeyPress || (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter))
-        return false;
-    cmdButton_Click(Ok);
-    return true;
+    return EnterIsOk(*event, [this] { cmdButton_Click(Ok); });
 }
 
 void frmDialog::EscapePressed()
