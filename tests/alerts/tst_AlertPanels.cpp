@@ -5,10 +5,9 @@
 #include "model/AddNewAlert.h"
 #include "model/DeleteContacts.h"
 #include "model/Openers.h"
+#include "support/Columns.h"
 
-#include <QCalendarWidget>
 #include <QContextMenuEvent>
-#include <QPlainTextEdit>
 
 using namespace Qt::StringLiterals;
 
@@ -19,16 +18,13 @@ class tst_AlertPanels : public QObject
 private Q_SLOTS:
     void TheMorningShowsWhatIsDueAndWhatComes();
     void MidnightChangesNothingBeforeTheNextFilling();
-    void ANewAlertTakesItsPlace_data();
     void ANewAlertTakesItsPlace();
     void FutureAlertsStandInTheirOrderOfSetting();
     void WithoutAlertsTheRowsStayAndTheCountsGo();
-    void EnterAndDoubleClickShowTheAlert_data();
     void EnterAndDoubleClickShowTheAlert();
     void DeleteTakesTheAlertOfTheSelectedRow_data();
     void DeleteTakesTheAlertOfTheSelectedRow();
     void TheListWorksOnItsOwnRowAfterAPanelChoseAnother();
-    void ThePopupSetsANewAlert();
     void AnAlertOfNextJanuaryLeavesItsRowBehind();
     void ADeleteThatFailsLosesNothing();
     void TheFirstPopupAfterAnEmptyPanelIsShort();
@@ -85,35 +81,27 @@ void tst_AlertPanels::MidnightChangesNothingBeforeTheNextFilling()
     QCOMPARE(current.Rows(), 2); // the other panel was not asked
 }
 
-void tst_AlertPanels::ANewAlertTakesItsPlace_data()
-{
-    QTest::addColumn<QString>("date");
-    QTest::addColumn<int>("row");
-    QTest::addColumn<QString>("icon");
-    QTest::newRow("today, behind its equals") << u"11/22/2026"_s << 2 << u"red"_s;
-    QTest::newRow("between") << u"11/21/2026"_s << 2 << u"yellow"_s;
-    QTest::newRow("behind an equal") << u"11/20/2026"_s << 3 << u"yellow"_s;
-    QTest::newRow("the oldest") << u"1/1/1999"_s << 3 << u"yellow"_s;
-}
-
 void tst_AlertPanels::ANewAlertTakesItsPlace()
 {
-    QFETCH(QString, date);
-    QFETCH(int, row);
-    Morning morning;
-    Grid& current = morning.Current();
-    curContact = ContactAt(3);
-    AddNewAlert(date, u"First line\r\nsecond"_s);
-    QCOMPARE(current.SelectedRow(), row);
-    QCOMPARE(current.CellText(row, 3), u"First linesecond"_s);
-    QTEST(current.CellIcon(row, 1), "icon");
-    QVERIFY(!current.CellColor(row, 3).isValid()); // red comes with the next filling
-    QCOMPARE(current.RowItemData(row), 5);
-    QCOMPARE(curAlertIndex, 5);
-    QCOMPARE(morning.Counts(), u"3 2"_s);
-    const QStringList inserted = Morning::Texts(current);
-    Morning::Panels().FillAlertGrid(false);
-    QCOMPARE(Morning::Texts(current), inserted);
+    // Behind its equals of today, between, behind an older equal, and as the oldest.
+    for (const auto& [date, row, icon] :
+         {std::tuple(u"11/22/2026"_s, 2, u"red"_s), std::tuple(u"11/21/2026"_s, 2, u"yellow"_s),
+          std::tuple(u"11/20/2026"_s, 3, u"yellow"_s), std::tuple(u"1/1/1999"_s, 3, u"yellow"_s)}) {
+        Morning morning;
+        Grid& current = morning.Current();
+        curContact = ContactAt(3);
+        AddNewAlert(date, u"First line\r\nsecond"_s);
+        QCOMPARE(current.SelectedRow(), row);
+        QCOMPARE(current.CellText(row, 3), u"First linesecond"_s);
+        QCOMPARE(current.CellIcon(row, 1), icon);
+        QVERIFY(!current.CellColor(row, 3).isValid()); // red comes with the next filling
+        QCOMPARE(current.RowItemData(row), 5);
+        QCOMPARE(curAlertIndex, 5);
+        QCOMPARE(morning.Counts(), u"3 2"_s);
+        const QStringList inserted = Morning::Texts(current);
+        Morning::Panels().FillAlertGrid(false);
+        QCOMPARE(Morning::Texts(current), inserted);
+    }
 }
 
 void tst_AlertPanels::FutureAlertsStandInTheirOrderOfSetting()
@@ -140,40 +128,31 @@ void tst_AlertPanels::WithoutAlertsTheRowsStayAndTheCountsGo()
     QCOMPARE(morning.Future().Rows(), 2);
 }
 
-void tst_AlertPanels::EnterAndDoubleClickShowTheAlert_data()
-{
-    QTest::addColumn<bool>("byKey");
-    QTest::newRow("Enter") << true;
-    QTest::newRow("a double click") << false;
-}
-
 void tst_AlertPanels::EnterAndDoubleClickShowTheAlert()
 {
-    QFETCH(bool, byKey);
     Morning morning;
-    curContact = ContactAt(3);
-    curAlertIndex = 1;
-    gAlertMode = AlertMode::New;
-    WhenFormOpens window(u"frmAlerts"_s, [](Form& form) {
-        QCOMPARE(form.windowTitle(), u"Bob M Ray Alerts"_s);
-        QCOMPARE(Control<QLabel>(form, u"lblDate"_s).text(), u"01/15/2027"_s);
-    });
     Grid& future = morning.Future();
-    future.SelectCell(2, 1);
-    if (byKey)
-        QTest::keyClick(&future, Qt::Key_Return);
-    else
-        QTest::mouseDClick(future.viewport(), Qt::LeftButton, {},
-                           future.visualRect(future.model()->index(1, 0)).center());
-    QCOMPARE(gAlertMode, AlertMode::Modify);
+    for (const bool byKey : {true, false}) {
+        curContact = ContactAt(3);
+        curAlertIndex = 1;
+        gAlertMode = AlertMode::New;
+        const WhenFormOpens window(u"frmAlerts"_s, [](Form& form) {
+            QCOMPARE(form.windowTitle(), u"Bob M Ray Alerts"_s);
+            QCOMPARE(Control<QLabel>(form, u"lblDate"_s).text(), u"01/15/2027"_s);
+        });
+        future.SelectCell(2, 1);
+        if (byKey)
+            QTest::keyClick(&future, Qt::Key_Return);
+        else
+            QTest::mouseDClick(future.viewport(), Qt::LeftButton, {},
+                               future.visualRect(future.model()->index(1, 0)).center());
+        QCOMPARE(gAlertMode, AlertMode::Modify);
+    }
 }
 
 void tst_AlertPanels::DeleteTakesTheAlertOfTheSelectedRow_data()
 {
-    QTest::addColumn<bool>("future");
-    QTest::addColumn<QString>("question");
-    QTest::addColumn<QString>("statement");
-    QTest::addColumn<QString>("counts");
+    AddColumns<bool, QString, QString, QString>({"future", "question", "statement", "counts"});
     QTest::newRow("current") << false << Question(u"11/20/2026"_s, u"Ann Lee"_s) << u"Delete from Alerts where ID=2"_s
                              << u"1 2"_s;
     QTest::newRow("future") << true << Question(u"12/01/2026"_s, u"Bob M Ray"_s) << u"Delete from Alerts where ID=3"_s
@@ -236,40 +215,6 @@ void tst_AlertPanels::TheListWorksOnItsOwnRowAfterAPanelChoseAnother()
     QTest::mouseDClick(list.viewport(), Qt::LeftButton, {},
                        list.visualRect(list.model()->index(2, column - 1)).center());
     QCOMPARE(FormatName(), u"Cy Day"_s);
-}
-
-void tst_AlertPanels::ThePopupSetsANewAlert()
-{
-    Morning morning;
-    morning.OpenList();
-    const WhenFormOpens chooser(u"frmAlertContacts"_s, [](Form& form) {
-        auto& grid = Control<Grid>(form, u"Grid1"_s);
-        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(grid.model()->index(0, 0)).center());
-        ClickOn(form, u"cmdbutton_2"_s);
-    });
-    const WhenFormOpens calendar(u"frmCalendar"_s, [](Form& form) {
-        QCOMPARE(form.windowTitle(), u"New Alert Date for Cy Day"_s);
-        QCOMPARE(Control<QCalendarWidget>(form, u"Calendar1"_s).selectedDate(), QDate(2026, 11, 22));
-        ClickOn(form, u"cmdButton_2"_s);
-    });
-    morning.Person.ExpectAskFor(u"New Alert Title"_s, u"Call Cy"_s);
-    morning.Entry(u"mnuNewCurAlert"_s).trigger();
-    morning.Person.Done();
-    QCOMPARE(morning.Counts(), u"3 2"_s);
-    QVERIFY(Morning::Texts(morning.Current()).contains(u"Call Cy"_s));
-    QCOMPARE(curAlertIndex, gAlerts.Count());
-    QCOMPARE(ContactAt(3)->NumberOfAlerts, 0); // counted when frmAlerts closes or at the next start, which is meant
-    // The list that is filled anew knows it all the same, and its double click shows the alert.
-    Form& window = *Forms::Find(u"frmList"_s);
-    window.Unload();
-    Grid& again = morning.OpenList();
-    QCOMPARE(again.CellIcon(3, 1), u"red"_s);
-    const WhenFormOpens alerts(u"frmAlerts"_s, [](Form& form) {
-        QCOMPARE(Control<Grid>(form, u"Grid1"_s).Rows(), 1);
-        QVERIFY(Control<QPlainTextEdit>(form, u"txtNotes"_s).isReadOnly());
-    });
-    QTest::mouseDClick(again.viewport(), Qt::LeftButton, {}, again.visualRect(again.model()->index(2, 0)).center());
-    QCOMPARE(ContactAt(3)->NumberOfAlerts, 1);
 }
 
 void tst_AlertPanels::AnAlertOfNextJanuaryLeavesItsRowBehind()
@@ -379,9 +324,7 @@ void tst_AlertPanels::DeletedContactsTakeTheirAlertsAlong()
 
 void tst_AlertPanels::AStartWithABadAlertReportsAndGoesOn_data()
 {
-    QTest::addColumn<QString>("values");
-    QTest::addColumn<QString>("report");
-    QTest::addColumn<int>("loaded");
+    AddColumns<QString, QString, int>({"values", "report", "loaded"});
     QTest::newRow("a contact that is gone") << u"99,'11/22/2026','Nobody'"_s << u"LoadContacts Error #424"_s << 2;
     QTest::newRow("a date that is none") << u"1,'soon','Some day'"_s << u"LoadContacts Error #13"_s << 1;
 }

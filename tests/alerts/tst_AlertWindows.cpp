@@ -2,6 +2,7 @@
 
 #include "alerts/ManageAlerts.h"
 #include "model/Openers.h"
+#include "support/Columns.h"
 #include "ui/widgets/frmCalendar.h"
 #include "ui/widgets/HoverButton.h"
 
@@ -21,7 +22,6 @@ private Q_SLOTS:
     void TheWindowOpensOnTheAlertOfItsCaller_data();
     void TheWindowOpensOnTheAlertOfItsCaller();
     void EditingTurnsTheButtonsOver();
-    void CancelBringsTheFieldsBack_data();
     void CancelBringsTheFieldsBack();
     void ASaveIsRefused();
     void ANewAlertFromTheContactList();
@@ -29,9 +29,7 @@ private Q_SLOTS:
     void AChangeToYesterdayMovesTheAlertAndCountsOneTooMany();
     void DeletingShowsTheNextAlertAndThenNone();
     void TwoAlertsOfOneDayShareTheirKeyUntilTheNextStart();
-    void ANoteComesBackAsItWasWritten_data();
     void ANoteComesBackAsItWasWritten();
-    void AnyBreakInANoteIsALineBreak();
     void ANoteOfOtherHandsIsNotTouchedByADate();
     void SettingAnAlertByThreeQuestions();
     void SettingAnAlertEndsWhereThePersonStops_data();
@@ -39,7 +37,6 @@ private Q_SLOTS:
     void ManagingGoesFromContactToContact();
     void WithoutAlertsThereIsNothingToManage();
     void TheContactsAreSortedAsTheButtonsSay();
-    void TheCalendarAnswers_data();
     void TheCalendarAnswers();
 
 private:
@@ -73,11 +70,7 @@ private:
 
 void tst_AlertWindows::TheWindowOpensOnTheAlertOfItsCaller_data()
 {
-    QTest::addColumn<int>("contact");
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<int>("current");
-    QTest::addColumn<QString>("caption");
-    QTest::addColumn<QString>("date");
+    AddColumns<int, int, int, QString, QString>({"contact", "mode", "current", "caption", "date"});
     QTest::newRow("the current alert") << 1 << 4 << 2 << u"Ann Lee Alerts"_s << u"11/20/2026"_s;
     QTest::newRow("no alert of this contact: the first row") << 2 << 2 << 1 << u"Bob M Ray Alerts"_s << u"01/15/2027"_s;
     QTest::newRow("an alert that is long gone") << 1 << 4 << 99 << u"Ann Lee Alerts"_s << u"11/22/2026"_s;
@@ -132,43 +125,35 @@ void tst_AlertWindows::EditingTurnsTheButtonsOver()
     Open(1, AlertMode::Modify);
 }
 
-void tst_AlertWindows::CancelBringsTheFieldsBack_data()
-{
-    QTest::addColumn<int>("contact");
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QString>("date");
-    QTest::addColumn<QString>("note");
-    QTest::newRow("of a change") << 1 << 4 << u"11/22/2026"_s << u"Call Ann"_s;
-    QTest::newRow("of the new one that opened the window") << 1 << 3 << u"11/22/2026"_s << u"Call Ann"_s;
-    QTest::newRow("of the first alert") << 3 << 3 << QString() << QString();
-}
-
 void tst_AlertWindows::CancelBringsTheFieldsBack()
 {
-    QFETCH(int, contact);
-    QFETCH(int, mode);
-    Morning morning;
-    const QString caption = u"Alert Date for "_s + FormatName(*ContactAt(contact));
-    std::unique_ptr<WhenFormOpens> window;
-    const auto work = [&] {
-        window = std::make_unique<WhenFormOpens>(u"frmAlerts"_s, [&](Form& form) {
-            if (mode == AlertMode::Modify) {
-                Modify(form);
-                const auto second = Pick(QDate(2026, 12, 5));
-                ClickOn(form, u"picCalendar"_s);
-            }
-            QCOMPARE(DateOf(form), u"12/05/2026"_s);
-            TypeText(form, u"Something else"_s);
-            Delete(form);
-            QTEST(DateOf(form), "date");
-            QTEST(NoteOf(form).toPlainText(), "note");
-        });
-    };
-    const auto first = mode == AlertMode::New ? Pick(QDate(2026, 12, 5), caption, work) : nullptr;
-    if (!first)
-        work();
-    Open(contact, mode);
-    QVERIFY(morning.Database.TakeStatements().isEmpty());
+    // Of a change, of the new one that opened the window, and of the first alert.
+    for (const auto& [contact, mode, date, note] : {std::tuple(1, AlertMode::Modify, u"11/22/2026"_s, u"Call Ann"_s),
+                                                    std::tuple(1, AlertMode::New, u"11/22/2026"_s, u"Call Ann"_s),
+                                                    std::tuple(3, AlertMode::New, QString(), QString())}) {
+        Morning morning;
+        const QString caption = u"Alert Date for "_s + FormatName(*ContactAt(contact));
+        std::unique_ptr<WhenFormOpens> window;
+        const auto work = [&] {
+            window = std::make_unique<WhenFormOpens>(u"frmAlerts"_s, [&](Form& form) {
+                if (mode == AlertMode::Modify) {
+                    Modify(form);
+                    const auto second = Pick(QDate(2026, 12, 5));
+                    ClickOn(form, u"picCalendar"_s);
+                }
+                QCOMPARE(DateOf(form), u"12/05/2026"_s);
+                TypeText(form, u"Something else"_s);
+                Delete(form);
+                QCOMPARE(DateOf(form), date);
+                QCOMPARE(NoteOf(form).toPlainText(), note);
+            });
+        };
+        const auto first = mode == AlertMode::New ? Pick(QDate(2026, 12, 5), caption, work) : nullptr;
+        if (!first)
+            work();
+        Open(contact, mode);
+        QVERIFY(morning.Database.TakeStatements().isEmpty());
+    }
 }
 
 void tst_AlertWindows::ASaveIsRefused()
@@ -325,19 +310,9 @@ void tst_AlertWindows::TwoAlertsOfOneDayShareTheirKeyUntilTheNextStart()
     QCOMPARE(Morning::Texts(morning.Current()), (QStringList{u"Call Ann"_s, u"Second of the day"_s, u"Late"_s}));
 }
 
-void tst_AlertWindows::ANoteComesBackAsItWasWritten_data()
-{
-    QTest::addColumn<QString>("note");
-    QTest::newRow("line breaks") << u"First\r\n\r\nthird"_s;
-    QTest::newRow("apostrophes") << u"Ann's 'best' \"offer\""_s;
-    QTest::newRow("a statement") << u"'); Delete from Alerts; --"_s;
-    QTest::newRow("emoji and a hard blank") << u"\U0001F3E0 sold for 5\u00A0million \u2764"_s;
-    QTest::newRow("20,000 letters in lines") << u"It's a long \U0001F600 story\r\n"_s.repeated(800);
-}
-
 void tst_AlertWindows::ANoteComesBackAsItWasWritten()
 {
-    QFETCH(QString, note);
+    const QString note = u"It's a long \U0001F600 story'); Delete from Alerts; --\r\n"_s.repeated(800);
     Morning morning;
     {
         const WhenFormOpens window(u"frmAlerts"_s, [&note](Form& form) {
@@ -353,20 +328,6 @@ void tst_AlertWindows::ANoteComesBackAsItWasWritten()
     QCOMPARE(gAlerts.Item(1)->AlertNote, note);
     QCOMPARE(Morning::Texts(morning.Current()).first(), QString(note).remove(u"\r\n"_s));
     morning.Main().grab(); // a long note must paint, too
-}
-
-void tst_AlertWindows::AnyBreakInANoteIsALineBreak()
-{
-    Morning morning;
-    const WhenFormOpens window(u"frmAlerts"_s, [](Form& form) {
-        Modify(form);
-        TypeText(form, u"One"_s);
-        TypeKey(form, Qt::Key_Return, Qt::ShiftModifier);
-        TypeText(form, u"two"_s);
-        Modify(form);
-    });
-    Open(1, AlertMode::Modify);
-    QCOMPARE(FreshDatabase::Rows(u"Select AlertNote from Alerts Where ID=1"_s), QStringList{u"One\r\ntwo"_s});
 }
 
 void tst_AlertWindows::ANoteOfOtherHandsIsNotTouchedByADate()
@@ -514,24 +475,16 @@ void tst_AlertWindows::TheContactsAreSortedAsTheButtonsSay()
     ManageAlerts();
 }
 
-void tst_AlertWindows::TheCalendarAnswers_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QString>("reply");
-    QTest::newRow("Enter") << int{Qt::Key_Return} << u"12/31/2026"_s;
-    QTest::newRow("a day on, then Enter") << int{Qt::Key_Right} << u"01/01/2027"_s;
-    QTest::newRow("Esc") << int{Qt::Key_Escape} << QString();
-}
-
 void tst_AlertWindows::TheCalendarAnswers()
 {
-    QFETCH(int, key);
-    const WhenFormOpens window(u"frmCalendar"_s, [key](Form& form) {
-        TypeKey(form, static_cast<Qt::Key>(key));
-        if (key == Qt::Key_Right)
-            TypeKey(form, Qt::Key_Return);
-    });
-    QTEST(AskForDate(u"When"_s, u"12/31/2026"_s), "reply");
+    for (const auto& [key, reply] : {std::pair(Qt::Key_Right, u"01/01/2027"_s), std::pair(Qt::Key_Escape, QString())}) {
+        const WhenFormOpens window(u"frmCalendar"_s, [key = key](Form& form) {
+            TypeKey(form, key);
+            if (key == Qt::Key_Right)
+                TypeKey(form, Qt::Key_Return);
+        });
+        QCOMPARE(AskForDate(u"When"_s, u"12/31/2026"_s), reply);
+    }
 }
 
 QTEST_MAIN(tst_AlertWindows)

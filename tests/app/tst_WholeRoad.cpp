@@ -18,7 +18,6 @@
 #include <QAction>
 #include <QFile>
 #include <QLockFile>
-#include <QMenu>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QProgressBar>
@@ -37,7 +36,6 @@ private Q_SLOTS:
     void AStartThatFailsStaysOnTheSplash();
     void TheProgramLeavesAFolderAloneThatAnotherOneHolds();
     void ClosingTakesOpenEditorsAlong();
-    void ADoubleClickOnTheHousesOpensThePropertiesAndTheirCountFollows();
 
 private:
     /// A run of the program inside this process.
@@ -226,59 +224,6 @@ void tst_WholeRoad::ClosingTakesOpenEditorsAlong()
     run.Splash.Program()->Tree().trvCategories_DblClick();
     QVERIFY(Forms::Loaded().isEmpty() || Forms::Loaded() == QStringList{u"frmSplash"_s});
     QVERIFY(FreshDatabase::Rows(u"Select * from Contacts"_s).isEmpty());
-}
-
-void tst_WholeRoad::ADoubleClickOnTheHousesOpensThePropertiesAndTheirCountFollows()
-{
-    const FreshDatabase fresh;
-    ScriptedUser person;
-    FreshDatabase::Execute(u"Insert into Categories (Description) Values ('Buyers')"_s);
-    FreshDatabase::Execute(u"Insert into SubCategories (Description,ParentID) Values ('First home',1)"_s);
-    for (const auto name : {"Ann"_L1, "Bob"_L1})
-        FreshDatabase::Execute(
-            u"Insert into Contacts (CategoryID,SubCategoryID,FirstName,LastName) Values (1,1,'%1','Lee')"_s.arg(name));
-    Run run;
-    QTRY_VERIFY(run.Splash.Program() != nullptr && run.Main().isVisible());
-    run.Splash.Program()->Tree().FindInTree(u"S1"_s);
-    run.Splash.Program()->Tree().trvCategories_DblClick();
-    QTRY_COMPARE(ListGrid().Rows(), 2);
-    const int column = ListGrid().ColumnIndex(u"Prop");
-    const auto doubleClick = [column] {
-        const QPoint place = ListGrid().visualRect(ListGrid().model()->index(1, column - 1)).center();
-        QTest::mouseClick(ListGrid().viewport(), Qt::LeftButton, {}, place);
-        QTest::mouseDClick(ListGrid().viewport(), Qt::LeftButton, {}, place);
-    };
-    auto& menu = Control<QMenu>(*Forms::Find(u"frmList"_s), u"mnuContacts"_s);
-    {
-        const WhenFormOpens editor(u"frmProperty"_s, [](Form& form) {
-            QCOMPARE(form.windowTitle(), u"New Property for Bob Lee"_s);
-            TypeKey(form, Qt::Key_Return);
-            TypeKey(form, Qt::Key_Return);
-            TypeText(form, u"1 Elm Street"_s);
-            TypeKey(form, Qt::Key_S, Qt::AltModifier);
-        });
-        doubleClick();
-    }
-    QCOMPARE(ListGrid().CellText(2, column), u"1"_s);
-    const WhenFormOpens properties(u"frmPropertyList"_s, [&person](Form& form) {
-        QCOMPARE(Control<Grid>(form, u"GridPropList"_s).Rows(), 1);
-        person.Expect(u"Please Confirm Before I Proceed"_s, u"Do you want me to permanently delete this property?"_s,
-                      Answer::Yes);
-        Control<QAction>(form, u"mnuDelete"_s).trigger();
-        TypeKey(form, Qt::Key_Escape);
-    });
-    doubleClick();
-    QCOMPARE(ListGrid().CellText(1, column), QString());
-    QCOMPARE(ListGrid().CellText(2, column), QString());
-    QCOMPARE(ContactAt(2)->DefaultProperty, 0);
-
-    // Without a row there is nobody to give a property to.
-    const auto& entry = ListEntry(u"mnuNewProperty"_s);
-    Q_EMIT menu.aboutToShow();
-    QVERIFY(entry.isEnabled());
-    ListGrid().Clear();
-    Q_EMIT menu.aboutToShow();
-    QVERIFY(!entry.isEnabled());
 }
 
 QTEST_MAIN(tst_WholeRoad)

@@ -22,32 +22,22 @@ private slots:
         QCOMPARE(ToCodePage1252(text), all);
     }
 
-    void WhatThePageLacksIsReplaced_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addRow("in the page") << u"Zoë’s “café” – €5"_s
-                                     << QByteArray("Zo\xEB\x92s \x93"
-                                                   "caf\xE9\x94 \x96 \x80"
-                                                   "5");
-        QTest::addRow("a mark taken off") << u"Dvořák Ştefan ő"_s << QByteArray("Dvor\xE1k Stefan o");
-        QTest::addRow("a mark behind its letter") << u"Re\u0301ne\u030B"_s << QByteArray("R\xE9ne");
-        QTest::addRow("a stroke") << u"Łódź Đ"_s
-                                  << QByteArray("L\xF3"
-                                                "dz D");
-        QTest::addRow("more than one letter") << u"ﬁnd"_s << QByteArray("find");
-        QTest::addRow("another alphabet") << u"Иван"_s << QByteArray("????");
-        QTest::addRow("one for a pair") << u"a\U0001F600b"_s << QByteArray("a?b");
-        QTest::addRow("half a pair") << QString(QChar(0xD83D)) + u'x' << QByteArray("?x");
-        QTest::addRow("controls") << u"\t\r\n\u0001"_s << QByteArray("\t\r\n\x01");
-        QTest::addRow("a control that is none here") << u"\u0080"_s << QByteArray("?");
-    }
-
     void WhatThePageLacksIsReplaced()
     {
-        QFETCH(QString, text);
-        QFETCH(QByteArray, bytes);
-        QCOMPARE(ToCodePage1252(text), bytes);
+        QCOMPARE(ToCodePage1252(u"Zoë’s “café” – €5"_s), "Zo\xEB\x92s \x93"
+                                                         "caf\xE9\x94 \x96 \x80"
+                                                         "5");
+        // A mark is taken off, and put on where it stands behind its letter.
+        QCOMPARE(ToCodePage1252(u"Dvořák Ştefan ő"_s), "Dvor\xE1k Stefan o");
+        QCOMPARE(ToCodePage1252(u"Re\u0301ne\u030B"_s), "R\xE9ne");
+        QCOMPARE(ToCodePage1252(u"Łódź Đ"_s), "L\xF3"
+                                              "dz D");
+        QCOMPARE(ToCodePage1252(u"ﬁnd"_s), "find");
+        QCOMPARE(ToCodePage1252(u"Иван"_s), "????");
+        QCOMPARE(ToCodePage1252(u"a\U0001F600b"_s), "a?b");
+        QCOMPARE(ToCodePage1252(QString(QChar(0xD83D)) + u'x'), "?x");
+        QCOMPARE(ToCodePage1252(u"\t\r\n\u0001"_s), "\t\r\n\x01");
+        QCOMPARE(ToCodePage1252(u"\u0080"_s), "?"); // a control that is none here
     }
 };
 

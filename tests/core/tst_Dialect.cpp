@@ -1,6 +1,7 @@
 #include "core/adodb/Dialect.h"
 
 #include "ErrorOf.h"
+#include "support/Columns.h"
 
 #include <QTest>
 
@@ -13,18 +14,14 @@ class tst_Dialect : public QObject
 private Q_SLOTS:
     void StatementsMeanWhatTheySay_data();
     void StatementsMeanWhatTheySay();
-    void FaultyStatementsAreRefused_data();
     void FaultyStatementsAreRefused();
     void ListsAndLongStatementsStandAsTheyAre();
-    void OnlyAWholeTableCanBeChangedThroughItsRows_data();
     void OnlyAWholeTableCanBeChangedThroughItsRows();
 };
 
 void tst_Dialect::StatementsMeanWhatTheySay_data()
 {
-    QTest::addColumn<QString>("statement");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("literals");
+    AddColumns<QString, QString, QStringList>({"statement", "text", "literals"});
 
     QTest::newRow("literals are lifted") << u"Select ID from Contacts Where SubCategoryID=7 and FirstName='Ann'"_s
                                          << u"Select ID from Contacts Where SubCategoryID = ? and FirstName = ?"_s
@@ -63,35 +60,31 @@ void tst_Dialect::StatementsMeanWhatTheySay()
     QCOMPARE(lifted, literals);
 }
 
-void tst_Dialect::FaultyStatementsAreRefused_data()
-{
-    QTest::addColumn<QString>("statement");
-    QTest::newRow("a comment would hide the Where") << u"Update Contacts set MI=''--' Where ID=5"_s;
-    QTest::newRow("a block comment") << u"Update Contacts set MI='' /* Where ID=5"_s;
-    QTest::newRow("a second statement") << u"Delete from Alerts; Delete from Contacts"_s;
-    QTest::newRow("an end mark") << u"Delete from Alerts;"_s;
-    QTest::newRow("an open literal") << u"Update Contacts set MI='' Where ID=5 and FirstName='x"_s;
-    QTest::newRow("an open bracket") << u"Select * from [Contacts"_s;
-    QTest::newRow("an empty list") << u"Delete from Contacts Where ID in ()"_s;
-    QTest::newRow("a second row") << u"Insert into T (A,B) Values (1,'a'),(2,'b')"_s;
-    QTest::newRow("a name that begins with a digit") << u"Update T set A=12abc"_s;
-    QTest::newRow("a placeholder of the engine") << u"Update T set A=?"_s;
-    QTest::newRow("a text worked out") << u"Update T set A='rock 'and' roll' Where ID=1"_s;
-    QTest::newRow("a text compared") << u"Update T set A='a'='a' Where ID=1"_s;
-    QTest::newRow("a column set twice") << u"Update T set A='x', B='y', a='z'"_s;
-    QTest::newRow("a column for a value") << u"Update T set A=B Where ID=1"_s;
-    QTest::newRow("a sum in a row") << u"Insert into T (A) Values ('1' + '2')"_s;
-    QTest::newRow("no value") << u"Insert into T (A,B) Values (,1)"_s;
-    QTest::newRow("a condition that always holds") << u"Select ID from T Where A='x' or 'a'='a'"_s;
-    QTest::newRow("an alternative") << u"Select ID from T Where A='x' or B='y'"_s;
-    QTest::newRow("a second selection") << u"Select ID from T Where A='x' union select 1"_s;
-    QTest::newRow("a NUL outside of a literal") << u"Delete from T"_s + QChar(u'\0') + u"Where ID=1"_s;
-}
-
 void tst_Dialect::FaultyStatementsAreRefused()
 {
-    QFETCH(QString, statement);
-    QCOMPARE(ErrorOf([&] { (void)Translate(statement); }), ErrorNumber::EngineSyntax);
+    for (const QString& statement : {
+             u"Update Contacts set MI=''--' Where ID=5"_s,                 // a comment would hide the Where
+             u"Update Contacts set MI='' /* Where ID=5"_s,                 // a block comment
+             u"Delete from Alerts; Delete from Contacts"_s,                // a second statement
+             u"Delete from Alerts;"_s,                                     // an end mark
+             u"Update Contacts set MI='' Where ID=5 and FirstName='x"_s,   // an open literal
+             u"Select * from [Contacts"_s,                                 // an open bracket
+             u"Delete from Contacts Where ID in ()"_s,                     // an empty list
+             u"Insert into T (A,B) Values (1,'a'),(2,'b')"_s,              // a second row
+             u"Update T set A=12abc"_s,                                    // a name that begins with a digit
+             u"Update T set A=?"_s,                                        // a placeholder of the engine
+             u"Update T set A='rock 'and' roll' Where ID=1"_s,             // a text worked out
+             u"Update T set A='a'='a' Where ID=1"_s,                       // a text compared
+             u"Update T set A='x', B='y', a='z'"_s,                        // a column set twice
+             u"Update T set A=B Where ID=1"_s,                             // a column for a value
+             u"Insert into T (A) Values ('1' + '2')"_s,                    // a sum in a row
+             u"Insert into T (A,B) Values (,1)"_s,                         // no value
+             u"Select ID from T Where A='x' or 'a'='a'"_s,                 // a condition that always holds
+             u"Select ID from T Where A='x' or B='y'"_s,                   // an alternative
+             u"Select ID from T Where A='x' union select 1"_s,             // a second selection
+             QString(u"Delete from T"_s + QChar(u'\0') + u"Where ID=1"_s), // a NUL outside of a literal
+         })
+        QVERIFY2(ErrorOf([&] { (void)Translate(statement); }) == ErrorNumber::EngineSyntax, qPrintable(statement));
 }
 
 void tst_Dialect::ListsAndLongStatementsStandAsTheyAre()
@@ -109,20 +102,12 @@ void tst_Dialect::ListsAndLongStatementsStandAsTheyAre()
     QVERIFY(longOne.Text.contains(u"'it''s' , 'it''s'"_s));
 }
 
-void tst_Dialect::OnlyAWholeTableCanBeChangedThroughItsRows_data()
-{
-    QTest::addColumn<QString>("statement");
-    QTest::addColumn<QString>("table");
-    QTest::newRow("a table") << u"Select * from Settings"_s << u"Settings"_s;
-    QTest::newRow("some of its rows") << u"Select * from [PropDetail] where ID=3"_s << u"PropDetail"_s;
-    QTest::newRow("some columns") << u"Select ID from Contacts"_s << QString();
-    QTest::newRow("a join") << u"Select * from A, B"_s << QString();
-}
-
 void tst_Dialect::OnlyAWholeTableCanBeChangedThroughItsRows()
 {
-    QFETCH(QString, statement);
-    QTEST(Translate(statement).UpdatableTable, "table");
+    QCOMPARE(Translate(u"Select * from Settings"_s).UpdatableTable, u"Settings"_s);
+    QCOMPARE(Translate(u"Select * from [PropDetail] where ID=3"_s).UpdatableTable, u"PropDetail"_s);
+    QCOMPARE(Translate(u"Select ID from Contacts"_s).UpdatableTable, QString());
+    QCOMPARE(Translate(u"Select * from A, B"_s).UpdatableTable, QString());
 }
 
 QTEST_APPLESS_MAIN(tst_Dialect)

@@ -122,20 +122,6 @@ private slots:
         QCOMPARE(moved.Keys(), std::vector{2});
         QCOMPARE(*moved.Find(2), u"two"_s);
     }
-
-    void LookUpsStayCheap()
-    {
-        // A walk instead of a hash would take minutes here.
-        constexpr int count = 100'000;
-        Dictionary<int, int> numbers;
-        for (int key = 0; key < count; ++key)
-            numbers.Add(key, key);
-        for (int key = count - 1; key >= 0; --key) {
-            QVERIFY(numbers.Exists(key));
-            numbers.Remove(key);
-        }
-        QVERIFY(numbers.IsEmpty());
-    }
 };
 
 QTEST_APPLESS_MAIN(tst_Dictionary)

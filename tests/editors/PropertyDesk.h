@@ -5,6 +5,7 @@
 #include "editors/frmPropertyList.h"
 #include "editors/PropertyRecord.h"
 #include "editors/SheetEditor.h"
+#include "editors/SheetWindow.h"
 #include "model/Categories.h"
 #include "model/Contact.h"
 #include "model/LoadContacts.h"
@@ -131,24 +132,12 @@ private:
 };
 
 /// frmProperty, open beside the rest.
-class PropertyEditor
+class PropertyEditor : public SheetWindow<frmProperty>
 {
 public:
-    explicit PropertyEditor(Long editMode)
-    {
-        gEditMode = editMode;
-        m_form.emplace();
-        m_form->SetDeleteOnUnload(false);
-        m_form->Show();
-        static_cast<void>(QTest::qWaitForWindowActive(&*m_form));
-    }
+    using SheetWindow::SheetWindow;
 
-    [[nodiscard]] frmProperty& Form() { return *m_form; }
-    [[nodiscard]] SheetEditor& Sheet() { return *m_form->findChild<SheetEditor*>(); }
-    [[nodiscard]] QString Focus() const { return m_form->focusWidget()->objectName(); }
     [[nodiscard]] QString Value(PropertyField field) { return Sheet().Value(RowOf(field)); }
-    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { TypeKey(*m_form, key, modifiers); }
-    void Type(const QString& text) { TypeText(*m_form, text); }
     /// Goes to a row and types over what stands there.
     void Fill(PropertyField field, const QString& text)
     {
@@ -157,9 +146,4 @@ public:
         Key(Qt::Key_Delete);
         Type(text);
     }
-    void Click(int button) { ClickOn(*m_form, QStringLiteral("cmdButton_%1").arg(button)); }
-    void Gone() { m_form.reset(); }
-
-private:
-    std::optional<frmProperty> m_form;
 };

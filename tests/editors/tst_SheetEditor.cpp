@@ -1,6 +1,7 @@
 #include "editors/OneLine.h"
 #include "editors/SheetEditor.h"
 #include "model/Lists.h"
+#include "support/Columns.h"
 #include "support/Windows.h"
 #include "ui/widgets/Grid.h"
 
@@ -93,11 +94,7 @@ class tst_SheetEditor : public QObject
 private Q_SLOTS:
     void the_person_moves_in_the_order_of_the_contract_data()
     {
-        QTest::addColumn<int>("from");
-        QTest::addColumn<QString>("way");
-        QTest::addColumn<QString>("refuses");
-        QTest::addColumn<QStringList>("log");
-        QTest::addColumn<int>("to");
+        AddColumns<int, QString, QString, QStringList, int>({"from", "way", "refuses", "log", "to"});
 
         const QString none;
         const QStringList onward{u"validate txt1"_s, u"lost txt1"_s, u"got txt2 from 1"_s};
@@ -254,9 +251,7 @@ private Q_SLOTS:
 
     void a_paste_keeps_the_accepted_characters_and_is_masked_once_data()
     {
-        QTest::addColumn<QString>("before");
-        QTest::addColumn<QString>("pasted");
-        QTest::addColumn<QString>("after");
+        AddColumns<QString, QString, QString>({"before", "pasted", "after"});
         QTest::newRow("all accepted") << u"a"_s << u"bc"_s << u"abc"_s;
         QTest::newRow("some refused") << u"a"_s << u"b#c#"_s << u"abc"_s;
         QTest::newRow("lines become one") << QString() << u"one\r\ntwo\nthree\r\n"_s << u"one two three"_s;

@@ -6,13 +6,13 @@
 #include "model/LoadContacts.h"
 #include "model/Main.h"
 #include "model/PropDetail.h"
+#include "support/Columns.h"
 #include "support/FreshDatabase.h"
 #include "support/ScriptedUser.h"
 #include "support/Windows.h"
 
 #include <QPlainTextEdit>
 #include <QTest>
-#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -133,12 +133,8 @@ private Q_SLOTS:
 
     void leaving_asks_about_changes_data()
     {
-        QTest::addColumn<QString>("change");
-        QTest::addColumn<QString>("way");
-        QTest::addColumn<int>("answer");
-        QTest::addColumn<QString>("status");
-        QTest::addColumn<bool>("gone");
-        QTest::addColumn<QString>("stored");
+        AddColumns<QString, QString, int, QString, bool, QString>(
+            {"change", "way", "answer", "status", "gone", "stored"});
         const auto row = [](const char* what, const QString& change, const QString& way, int answer,
                             const QString& status, bool gone, const QString& stored) {
             QTest::newRow(what) << change << way << answer << status << gone << stored;
@@ -202,31 +198,23 @@ private Q_SLOTS:
         QCOMPARE(gEditMode, EditMode::Neutral);
     }
 
-    void the_mode_says_whose_notes_they_are_data()
-    {
-        QTest::addColumn<int>("mode");
-        QTest::addColumn<QString>("caption");
-        QTest::newRow("modify") << 0 << u"Anna Smith's Notes"_s;
-        QTest::newRow("new") << 1 << u"Anna Smith's Notes"_s;
-        QTest::newRow("neutral") << 3 << u"Anna Smith's Notes"_s;
-        QTest::newRow("show") << 2 << u"Notes for the property located at 5 Elm St"_s;
-        QTest::newRow("modify property") << 7 << u"Notes for the property located at 5 Elm St"_s;
-    }
-
     void the_mode_says_whose_notes_they_are()
     {
-        QFETCH(int, mode);
-        QFETCH(QString, caption);
         Desk desk;
-        gEditMode = mode;
-        QString shown;
-        WhenFormOpens opens(u"frmNotes"_s, [&shown](Form& form) {
-            shown = form.windowTitle();
-            TypeKey(form, Qt::Key_X, Qt::AltModifier);
-        });
-        ShowNotes();
-        QCOMPARE(shown, caption);
-        QCOMPARE(gEditMode, mode);
+        const QString property = u"Notes for the property located at 5 Elm St"_s;
+        for (const auto& [mode, caption] :
+             {std::pair(0, u"Anna Smith's Notes"_s), std::pair(1, u"Anna Smith's Notes"_s),
+              std::pair(3, u"Anna Smith's Notes"_s), std::pair(2, property), std::pair(7, property)}) {
+            gEditMode = mode;
+            QString shown;
+            const WhenFormOpens opens(u"frmNotes"_s, [&shown](Form& form) {
+                shown = form.windowTitle();
+                TypeKey(form, Qt::Key_X, Qt::AltModifier);
+            });
+            ShowNotes();
+            QCOMPARE(shown, caption);
+            QCOMPARE(gEditMode, mode);
+        }
     }
 
     void the_notes_of_a_property_write_that_one_column()
@@ -273,18 +261,6 @@ private Q_SLOTS:
         notes.Save();
         notes.Exit();
         QVERIFY(notes.Form().IsUnloaded());
-    }
-
-    void the_controls_scale_with_the_window_and_the_text_fills_it()
-    {
-        Desk desk;
-        Notes notes;
-        const QSize size = notes.Form().size();
-        const QRect stamp = Control<QToolButton>(notes.Form(), u"picStamp"_s).geometry();
-        notes.Form().resize(size * 2);
-        QTRY_COMPARE(Control<QToolButton>(notes.Form(), u"picStamp"_s).width(), stamp.width() * 2);
-        QCOMPARE(notes.Text().geometry().right(), notes.Form().rect().right() - 8);
-        QVERIFY(notes.Text().geometry().bottom() < Control<QToolButton>(notes.Form(), u"picStamp"_s).y());
     }
 };
 

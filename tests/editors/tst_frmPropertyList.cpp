@@ -3,6 +3,7 @@
 #include "editors/PhotoPreview.h"
 #include "editors/PropertyDesk.h"
 #include "editors/RecordingFaces.h"
+#include "support/Columns.h"
 #include "ui/widgets/CommonDialog.h"
 #include "ui/widgets/OpenFile.h"
 
@@ -93,25 +94,17 @@ private Q_SLOTS:
         QCOMPARE(list.Icon(2, u"Video"), u"video"_s);
     }
 
-    void a_date_is_closed_from_the_next_day_on_data()
-    {
-        QTest::addColumn<QString>("date");
-        QTest::addColumn<QString>("closed");
-        QTest::newRow("the day before, of a later month") << u"12/31/2025"_s << u"Yes"_s;
-        QTest::newRow("yesterday") << u"05/11/2026"_s << u"Yes"_s;
-        QTest::newRow("today") << u"05/12/2026"_s << u"No"_s;
-        QTest::newRow("a smaller text, but later") << u"01/01/2027"_s << u"No"_s;
-        QTest::newRow("no date") << u"soon"_s << QString();
-    }
-
     void a_date_is_closed_from_the_next_day_on()
     {
-        QFETCH(const QString, date);
         Clock::SetSource([] { return QDateTime(QDate(2026, 5, 12), QTime(9, 41)); });
-        const PropertyDesk desk;
-        PropertyDesk::Property(1).ClosingDate = date;
-        OpenPropertyList list;
-        QTEST(list.Text(1, u"Closed"), "closed");
+        for (const auto& [date, closed] : {std::pair(u"12/31/2025"_s, u"Yes"_s), std::pair(u"05/11/2026"_s, u"Yes"_s),
+                                           std::pair(u"05/12/2026"_s, u"No"_s), std::pair(u"01/01/2027"_s, u"No"_s),
+                                           std::pair(u"soon"_s, QString())}) {
+            const PropertyDesk desk;
+            PropertyDesk::Property(1).ClosingDate = date;
+            OpenPropertyList list;
+            QCOMPARE(list.Text(1, u"Closed"), closed);
+        }
         Clock::SetSource({});
     }
 
@@ -150,18 +143,6 @@ private Q_SLOTS:
         QCOMPARE(list.Icon(1, u"Default"), u"default"_s);
     }
 
-    void a_contact_without_a_default_gets_the_first_one()
-    {
-        PropertyDesk desk;
-        ContactAt(1)->DefaultProperty = 0;
-        desk.User.Expect(u"New Default Property for Ann Lee"_s,
-                         u"This contact was not assigned a Default Property or the\r\ndefault property was deleted. A "
-                         "new default property will\r\nbe automatically assigned for this contact"_s);
-        OpenPropertyList list;
-        QCOMPARE(ContactAt(1)->DefaultProperty, 1);
-        QCOMPARE(list.Icon(1, u"Default"), u"default"_s);
-    }
-
     void the_default_is_changed_after_a_question()
     {
         PropertyDesk desk;
@@ -185,9 +166,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<std::vector<int>>("rows");
         QTest::addColumn<Long>("standing"); // the default property before
-        QTest::addColumn<QString>("left");
-        QTest::addColumn<Long>("then");
-        QTest::addColumn<QString>("takesOver");
+        AddColumns<QString, Long, QString>({"left", "then", "takesOver"});
         using Rows = std::vector<int>;
         QTest::newRow("another one") << Rows{2} << 1 << u"1,3"_s << 1 << QString();
         QTest::newRow("the default one") << Rows{1} << 1 << u"2,3"_s << 2 << u"the property located at 2 Oak Lane"_s;
@@ -329,10 +308,7 @@ private Q_SLOTS:
 
     void a_file_is_chosen_opened_and_cleared_data()
     {
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("word");
-        QTest::addColumn<QString>("column");
-        QTest::addColumn<bool>("deletes");
+        AddColumns<QString, QString, QString, bool>({"key", "word", "column", "deletes"});
         QTest::newRow("photo") << u"Camera"_s << u"photo"_s << u"Picture"_s << true;
         QTest::newRow("video") << u"Video"_s << u"video"_s << u"Video"_s << true;
         QTest::newRow("a file that stays") << u"Camera"_s << u"photo"_s << u"Picture"_s << false;
@@ -409,15 +385,11 @@ private Q_SLOTS:
 
     void the_photo_shows_where_it_can_be_read_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QSize>("size");
-        QTest::addColumn<bool>("shows");
+        AddColumns<QString, QSize, bool>({"name", "size", "shows"});
         QTest::newRow("a camera's") << u"a.jpg"_s << QSize(5000, 4000) << true;
         QTest::newRow("60 megapixels") << u"b.jpg"_s << QSize(10000, 6000) << false;
-        QTest::newRow("not scaled, small enough") << u"c.bmp"_s << QSize(3000, 2000) << true;
         QTest::newRow("not scaled, too large") << u"d.bmp"_s << QSize(4000, 3000) << false;
         QTest::newRow("another ending") << u"e.jpg"_s << QSize() << true;
-        QTest::newRow("a text") << u"f.jpg"_s << QSize() << false;
         QTest::newRow("cut in the middle") << u"g.jpg"_s << QSize() << false;
         QTest::newRow("missing") << QString() << QSize() << false;
     }

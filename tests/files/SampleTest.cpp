@@ -40,8 +40,6 @@ private slots:
     void ASeedAlwaysGivesTheSameAgency();
     void NothingHangsInTheAir_data();
     void NothingHangsInTheAir();
-    void TheAgencyIsOfABelievableShape_data();
-    void TheAgencyIsOfABelievableShape();
     void ADatabaseInUseIsLeftAlone();
 
 private:
@@ -108,31 +106,6 @@ void SampleTest::NothingHangsInTheAir()
 {
     QFETCH(QByteArray, wrong);
     QCOMPARE(m_database->Value("SELECT count(*) FROM " + wrong), u"0"_s);
-}
-
-void SampleTest::TheAgencyIsOfABelievableShape_data()
-{
-    QTest::addColumn<QByteArray>("count");
-    QTest::addColumn<int>("least");
-    QTest::addColumn<int>("most");
-    QTest::newRow("contacts") << "Contacts"_ba << 2000 << 2000;
-    QTest::newRow("subcategories") << "SubCategories"_ba << 40 << 40;
-    QTest::newRow("properties") << "PropDetail"_ba << 2600 << 3400;
-    QTest::newRow("people without a property")
-        << "Contacts WHERE ID NOT IN (SELECT ContactID FROM PropDetail)"_ba << 300 << 900;
-    QTest::newRow("people with a default") << "Contacts WHERE DefaultProperty > 0"_ba << 1000 << 1600;
-    QTest::newRow("alerts") << "Alerts"_ba << 850 << 1150;
-    QTest::newRow("alerts of today") << "Alerts WHERE AlertDate = '11/22/2026'"_ba << 3 << 25;
-    QTest::newRow("letters with markers") << "FormLetters WHERE FormText LIKE '%!<%>!%'"_ba << 7 << 7;
-}
-
-void SampleTest::TheAgencyIsOfABelievableShape()
-{
-    QFETCH(QByteArray, count);
-    QFETCH(int, least);
-    QFETCH(int, most);
-    const int found = m_database->Value("SELECT count(*) FROM " + count).toInt();
-    QVERIFY2(found >= least && found <= most, qPrintable(QString::number(found)));
 }
 
 void SampleTest::ADatabaseInUseIsLeftAlone()

@@ -109,34 +109,26 @@ private Q_SLOTS:
         QCOMPARE(study.Letter().toPlainText(), u"Better\nwords"_s);
     }
 
-    void AnApostropheIsRefusedAndNothingIsLost_data()
-    {
-        QTest::addColumn<int>("action");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("reply");
-        QTest::addRow("text of a new letter") << 1 << u"It's sold"_s << u"Sold"_s;
-        QTest::addRow("name of a new letter") << 1 << u"Sold"_s << u"Ann's"_s;
-        QTest::addRow("text of a letter") << 2 << u"It's sold"_s << QString();
-    }
-
     void AnApostropheIsRefusedAndNothingIsLost()
     {
-        QFETCH(int, action);
-        QFETCH(QString, text);
-        QFETCH(QString, reply);
-        Study study;
-        const QStringList before = FreshDatabase::WholeFile();
-        study.Press(action);
-        study.Write(text);
-        if (!reply.isNull())
-            study.Person.ExpectAskFor(u"Save as: "_s, reply);
-        study.Person.ExpectReport(u"frmMain SaveForm Error #-2147217900"_s);
-        study.Press(3);
-        QCOMPARE(study.Letter().toPlainText(), text);
-        QCOMPARE(study.Enabled(), u"34"_s);
-        QVERIFY(study.Letter().hasFocus());
-        QCOMPARE(FreshDatabase::WholeFile(), before);
-        QCOMPARE(study.Names().size(), 3);
+        // In the text of a new letter, in its name, and in the text of an old one.
+        for (const auto& [action, text, reply] :
+             {std::tuple(1, u"It's sold"_s, u"Sold"_s), std::tuple(1, u"Sold"_s, u"Ann's"_s),
+              std::tuple(2, u"It's sold"_s, QString())}) {
+            Study study;
+            const QStringList before = FreshDatabase::WholeFile();
+            study.Press(action);
+            study.Write(text);
+            if (!reply.isNull())
+                study.Person.ExpectAskFor(u"Save as: "_s, reply);
+            study.Person.ExpectReport(u"frmMain SaveForm Error #-2147217900"_s);
+            study.Press(3);
+            QCOMPARE(study.Letter().toPlainText(), text);
+            QCOMPARE(study.Enabled(), u"34"_s);
+            QVERIFY(study.Letter().hasFocus());
+            QCOMPARE(FreshDatabase::WholeFile(), before);
+            QCOMPARE(study.Names().size(), 3);
+        }
     }
 
     void RenameWritesTheNameAsItIsTyped()
@@ -156,49 +148,28 @@ private Q_SLOTS:
         QCOMPARE(FreshDatabase::Rows(u"Select FormName from FormLetters Where ID=2"_s), QStringList{u"Hello"_s});
     }
 
-    void DeleteSelectsTheLetterBefore_data()
-    {
-        QTest::addColumn<int>("row");
-        QTest::addColumn<int>("next");
-        QTest::addRow("the first") << 0 << 0;
-        QTest::addRow("one between") << 1 << 0;
-        QTest::addRow("the last") << 2 << 1;
-    }
-
     void DeleteSelectsTheLetterBefore()
     {
-        QFETCH(int, row);
-        QFETCH(int, next);
-        Study study;
-        study.Forms().setCurrentRow(row);
-        QStringList names = study.Names();
-        const QString question = u"Do you want me to delete "_s + names[row] + u"?"_s;
-        study.Person.Expect(QString(pleaseConfirm), question, Answer::No);
-        study.Press(5);
-        QCOMPARE(study.Names(), names);
-        study.Person.Expect(QString(pleaseConfirm), question, Answer::Yes);
-        study.Press(5);
-        QCOMPARE(study.Person.LastBox().Picture, Icon::Question);
-        names.removeAt(row);
-        QCOMPARE(study.Names(), names);
-        QCOMPARE(FreshDatabase::Rows(u"Select FormName from FormLetters"_s), names);
-        QCOMPARE(study.Forms().currentRow(), next);
-        const QString text = study.Letter().toPlainText().replace(u'\n', u"\r\n"_s);
-        QCOMPARE(FreshDatabase::Rows(u"Select FormText from FormLetters Where FormName='"_s + names[next] + u"'"_s),
-                 QStringList{text});
-        QCOMPARE(study.Enabled(), u"1256"_s);
-    }
-
-    void TheLastLetterLeavesTheStartText()
-    {
-        Study study;
-        for (int i = 0; i < 3; ++i) {
-            study.Person.Expect(QString(pleaseConfirm), u"Do you want me to delete "_s + study.Names()[0] + u"?"_s,
-                                Answer::Yes);
+        for (const auto& [row, next] : {std::pair(0, 0), std::pair(1, 0), std::pair(2, 1)}) {
+            Study study;
+            study.Forms().setCurrentRow(row);
+            QStringList names = study.Names();
+            const QString question = u"Do you want me to delete "_s + names[row] + u"?"_s;
+            study.Person.Expect(QString(pleaseConfirm), question, Answer::No);
             study.Press(5);
+            QCOMPARE(study.Names(), names);
+            study.Person.Expect(QString(pleaseConfirm), question, Answer::Yes);
+            study.Press(5);
+            QCOMPARE(study.Person.LastBox().Picture, Icon::Question);
+            names.removeAt(row);
+            QCOMPARE(study.Names(), names);
+            QCOMPARE(FreshDatabase::Rows(u"Select FormName from FormLetters"_s), names);
+            QCOMPARE(study.Forms().currentRow(), next);
+            const QString text = study.Letter().toPlainText().replace(u'\n', u"\r\n"_s);
+            QCOMPARE(FreshDatabase::Rows(u"Select FormText from FormLetters Where FormName='"_s + names[next] + u"'"_s),
+                     QStringList{text});
+            QCOMPARE(study.Enabled(), u"1256"_s);
         }
-        QCOMPARE(study.Letter().toPlainText(), QString(startText));
-        QCOMPARE(study.Enabled(), u"1"_s);
     }
 
     void AMarkerGoesInAtTheCaret()
@@ -302,34 +273,16 @@ private Q_SLOTS:
         QCOMPARE(study.Enabled(), u"1"_s);
     }
 
-    void AWayToTheContactsAndBackLeavesTheList()
-    {
-        Study study;
-        study.Forms().setCurrentRow(1);
-        study.Main().ShowTab(static_cast<int>(frmMain::Tab::Contacts));
-        study.Main().ShowTab(static_cast<int>(frmMain::Tab::Letters));
-        QCOMPARE(study.Forms().currentRow(), 1);
-    }
-
-    void TheSelectedLetterCannotBeDeselected_data()
-    {
-        QTest::addColumn<bool>("byKey");
-        QTest::addRow("mouse") << false;
-        QTest::addRow("key") << true;
-    }
-
     void TheSelectedLetterCannotBeDeselected()
     {
-        QFETCH(bool, byKey);
         Study study;
         QListWidget& forms = study.Forms();
         forms.setCurrentRow(1);
         forms.setFocus();
-        if (byKey)
-            QTest::keyClick(&forms, Qt::Key_Space, Qt::ControlModifier);
-        else
-            QTest::mouseClick(forms.viewport(), Qt::LeftButton, Qt::ControlModifier,
-                              forms.visualItemRect(forms.item(1)).center());
+        QTest::keyClick(&forms, Qt::Key_Space, Qt::ControlModifier);
+        QCOMPARE(forms.selectedItems().size(), 1);
+        QTest::mouseClick(forms.viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          forms.visualItemRect(forms.item(1)).center());
         QCOMPARE(forms.selectedItems().size(), 1);
         QCOMPARE(study.Letter().toPlainText(), u"To !<FormattedName>! at !<MailAddr1>! "_s);
         study.Press(2);

@@ -4,6 +4,7 @@
 
 #include "letters/LetterWalk.h"
 #include "letters/MailMerge.h"
+#include "support/Columns.h"
 
 #include <QFile>
 
@@ -39,10 +40,7 @@ private Q_SLOTS:
 
     void TheWalkFindsTheMarkers_data()
     {
-        QTest::addColumn<QString>("letter");
-        QTest::addColumn<QString>("joined");
-        QTest::addColumn<QString>("select");
-        QTest::addColumn<QString>("header");
+        AddColumns<QString, QString, QString, QString>({"letter", "joined", "select", "header"});
         QTest::addRow("none") << u"Come in."_s << u"Come in."_s << QString() << QString();
         QTest::addRow("two") << u"A !<City>! , !<Zip>!"_s << u"A [City] , [Zip]"_s << u"City,Zip"_s << u"City\tZip"_s;
         QTest::addRow("the second one twice")
@@ -68,22 +66,13 @@ private Q_SLOTS:
         QTEST(walk.Header, "header");
     }
 
-    void BoldRunsFromOneCharacterLateToOneCharacterLate_data()
-    {
-        QTest::addColumn<QString>("content");
-        QTest::addColumn<Ranges>("ranges");
-        QTest::addRow("none") << u"Hi"_s << Ranges{};
-        QTest::addRow("one") << u"<b>Hi</b>"_s << Ranges{{1, 6}};
-        QTest::addRow("two") << u"a<b>b</b>c<b></b>"_s << Ranges{{2, 6}, {11, 14}};
-        QTest::addRow("one inside another") << u"<b>a<b>b</b>c</b>"_s << Ranges{{1, 9}};
-        QTest::addRow("never closed") << u"<b>a</b><b>b"_s << Ranges{{1, 5}, {9, 0}};
-    }
-
     void BoldRunsFromOneCharacterLateToOneCharacterLate()
     {
-        QFETCH(QString, content);
-        QFETCH(Ranges, ranges);
-        QCOMPARE(BoldRanges(content), ranges);
+        QCOMPARE(BoldRanges(u"Hi"_s), Ranges{});
+        QCOMPARE(BoldRanges(u"<b>Hi</b>"_s), (Ranges{{1, 6}}));
+        QCOMPARE(BoldRanges(u"a<b>b</b>c<b></b>"_s), (Ranges{{2, 6}, {11, 14}}));
+        QCOMPARE(BoldRanges(u"<b>a<b>b</b>c</b>"_s), (Ranges{{1, 9}}));    // one inside another
+        QCOMPARE(BoldRanges(u"<b>a</b><b>b"_s), (Ranges{{1, 5}, {9, 0}})); // never closed
     }
 
     void TheSourceHoldsTheSelectedContactsWithTheirDefaultProperty_data()
@@ -185,29 +174,25 @@ private Q_SLOTS:
         QCOMPARE(Source(), QByteArray("none"));
     }
 
-    void AFailureOpensNothing_data()
-    {
-        QTest::addColumn<QString>("letter");
-        QTest::addColumn<int>("number");
-        QTest::addRow("a marker cut off") << u"Dear !<FirstName"_s << 5;
-        QTest::addRow("a bold mark never closed") << u"<b>Dear !<FirstName>! "_s << 4608;
-        QTest::addRow("a column that nobody has") << u"!<Shoes>! "_s << -2147217904;
-        QTest::addRow("a column of both tables") << u"!<ID>! "_s << -2147217900;
-        QTest::addRow("a column without a name") << u"!<FirstName>!!<>!"_s << -2147217900;
-        QTest::addRow("another statement") << u"!<FirstName; Delete from Contacts>! "_s << -2147217900;
-    }
-
     void AFailureOpensNothing()
     {
-        QFETCH(QString, letter);
-        QFETCH(int, number);
         Study study;
         Study::Select({1});
         const QStringList before = FreshDatabase::WholeFile();
-        study.Person.ExpectReport(u"frmMain MailMerge Error #%1"_s.arg(number));
-        MailMerge(letter);
-        QCOMPARE(m_word->Opened(), QStringList());
-        QCOMPARE(FreshDatabase::WholeFile(), before);
+        for (const auto& [letter, number] : {
+                 std::pair(u"Dear !<FirstName"_s, 5),
+                 std::pair(u"<b>Dear !<FirstName>! "_s, 4608), // a bold mark never closed
+                 std::pair(u"!<Shoes>! "_s, -2147217904),
+                 std::pair(u"!<ID>! "_s, -2147217900), // a column of both tables
+                 std::pair(u"!<FirstName>!!<>!"_s, -2147217900),
+                 std::pair(u"!<FirstName; Delete from Contacts>! "_s, -2147217900),
+             }) {
+            study.Person.ExpectReport(u"frmMain MailMerge Error #%1"_s.arg(number));
+            MailMerge(letter);
+            study.Person.Done();
+            QCOMPARE(m_word->Opened(), QStringList());
+            QCOMPARE(FreshDatabase::WholeFile(), before);
+        }
     }
 
     void WithoutAWordProcessorTheDocumentIsNamed()

@@ -3,7 +3,7 @@
 #include "support/WordReader.h"
 
 #include "core/Clock.h"
-#include "core/RunTimeError.h"
+#include "core/ErrorOf.h"
 
 #include <QDir>
 #include <QFile>
@@ -27,7 +27,6 @@ private Q_SLOTS:
     void AFailedProcedureShowsHowFarItCame();
     void ACacheThatCannotBeWrittenIsReported();
     void WhatIsOlderThanAWeekGoesAtTheStart();
-    void ABadStepIsRefused_data();
     void ABadStepIsRefused();
     void ASourceIsReadAsItWasWritten_data();
     void ASourceIsReadAsItWasWritten();
@@ -154,12 +153,7 @@ void tst_WordFiles::ACacheThatCannotBeWrittenIsReported()
     Word::Application word;
     word.Documents().Add();
     word.Visible = true;
-    try {
-        word.Release();
-        QFAIL("nothing was raised");
-    } catch (const RunTimeError& error) {
-        QCOMPARE(error.Number(), 75);
-    }
+    QCOMPARE(ErrorOf([&] { word.Release(); }), 75);
     QVERIFY(inTheWay.remove());
     QCOMPARE(processor.Opened(), QStringList());
 }
@@ -179,53 +173,40 @@ void tst_WordFiles::WhatIsOlderThanAWeekGoesAtTheStart()
     Clock::SetSource({});
 }
 
-void tst_WordFiles::ABadStepIsRefused_data()
-{
-    QTest::addColumn<int>("step");
-    QTest::addColumn<int>("number");
-    QTest::newRow("a range that ends before it starts") << 0 << 4608;
-    QTest::newRow("a range behind the text") << 1 << 4608;
-    QTest::newRow("a merge without a source") << 2 << 4605;
-    QTest::newRow("a source that is not there") << 3 << 53;
-    QTest::newRow("a label nobody chose") << 4 << 5843;
-    QTest::newRow("another maker's number") << 5 << 5843;
-    QTest::newRow("a layout nobody kept") << 6 << 5941;
-    QTest::newRow("a header of the first page") << 7 << 5941;
-    QTest::newRow("typing without a document") << 8 << 4248;
-}
-
 void tst_WordFiles::ABadStepIsRefused()
 {
-    QFETCH(int, step);
-    QFETCH(int, number);
-    Word::Application word;
-    Word::Document& document = word.Documents().Add();
-    word.Selection().TypeText(u"text"_s);
-    const std::function<void()> steps[] = {
-        [&] { static_cast<void>(document.Range(3, 0)); },
-        [&] { static_cast<void>(document.Range(0, 6)); },
-        [&] { document.MailMerge().Execute(); },
-        [&] { document.MailMerge().OpenDataSource(u"/nowhere/MailMergeSource.txt"_s); },
-        [&] {
-            word.MailingLabel().CreateNewDocument({u"Avery Letter Size"_s, {}, {}, {}, 4});
-        },
-        [&] {
-            word.MailingLabel().CreateNewDocument({u"Avery A4"_s, u"5160"_s, {}, {}, 4});
-        },
-        [&] {
-            word.MailingLabel().CreateNewDocument({u"Avery Letter Size"_s, u"5160"_s, {}, u"none"_s, 4});
-        },
-        [&] { static_cast<void>(document.Sections(1).Headers(2)); },
-        [&] {
-            document.Close();
-            word.Selection().TypeText(u"lost"_s);
-        },
+    using Word::Application;
+    using Word::Document;
+    const std::pair<int, std::function<void(Application&, Document&)>> steps[]{
+        {4608, [](Application&, Document& document) { static_cast<void>(document.Range(3, 0)); }},
+        {4608, [](Application&, Document& document) { static_cast<void>(document.Range(0, 6)); }},
+        {4605, [](Application&, Document& document) { document.MailMerge().Execute(); }},
+        {53, [](Application&,
+                Document& document) { document.MailMerge().OpenDataSource(u"/nowhere/MailMergeSource.txt"_s); }},
+        {5843,
+         [](Application& word, Document&) {
+             word.MailingLabel().CreateNewDocument({u"Avery Letter Size"_s, {}, {}, {}, 4});
+         }},
+        {5843,
+         [](Application& word, Document&) {
+             word.MailingLabel().CreateNewDocument({u"Avery A4"_s, u"5160"_s, {}, {}, 4});
+         }},
+        {5941,
+         [](Application& word, Document&) { // a layout nobody kept
+             word.MailingLabel().CreateNewDocument({u"Avery Letter Size"_s, u"5160"_s, {}, u"none"_s, 4});
+         }},
+        {5941, [](Application&, Document& document) { static_cast<void>(document.Sections(1).Headers(2)); }},
+        {4248,
+         [](Application& word, Document& document) {
+             document.Close();
+             word.Selection().TypeText(u"lost"_s);
+         }},
     };
-    try {
-        steps[step]();
-        QFAIL("nothing was raised");
-    } catch (const RunTimeError& error) {
-        QCOMPARE(error.Number(), number);
+    for (const auto& [number, step] : steps) {
+        Application word;
+        Document& document = word.Documents().Add();
+        word.Selection().TypeText(u"text"_s);
+        QCOMPARE(ErrorOf([&] { step(word, document); }), number);
     }
 }
 
@@ -235,9 +216,6 @@ void tst_WordFiles::ASourceIsReadAsItWasWritten_data()
     QTest::addColumn<QStringList>("values"); // of the column "B" in each record
     QTest::newRow("trailing tabs") << QByteArray("A\tB\t\r\n1\t2\t\r\n3\t4\t\r\n") << QStringList{u"2"_s, u"4"_s};
     QTest::newRow("no tab at the end") << QByteArray("A\tB\r\n1\t2\r\n") << QStringList{u"2"_s};
-    QTest::newRow("a tab in a value shifts its record") << QByteArray("A\tB\t\r\nx\ty\t2\t\r\n") << QStringList{u"y"_s};
-    QTest::newRow("a line end in a value breaks its record")
-        << QByteArray("A\tB\t\r\nx\r\ny\t2\t\r\n") << QStringList{{}, u"2"_s};
     QTest::newRow("quotes stay") << QByteArray("A\tB\t\r\n1\t\"Al\" \t\r\n") << QStringList{u"\"Al\" "_s};
     QTest::newRow("the code page") << QByteArray("A\tb\t\r\n1\t\x80\xE9\x92\t\r\n") << QStringList{u"€é’"_s};
     QTest::newRow("no record") << QByteArray("A\tB\t\r\n") << QStringList{};

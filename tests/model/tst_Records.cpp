@@ -20,20 +20,12 @@ class tst_Records : public QObject
 
 private Q_SLOTS:
     void AContactIsWrittenAndReadBackByTheseStatements();
-    void AnApostropheIsStoredWhereItIsProtected_data();
-    void AnApostropheIsStoredWhereItIsProtected();
-    void AnApostropheInTheAddressLeavesTheRowButNoID();
     void TheReadBackTakesTheOlderOfEqualRows();
-    void ADuplicateIsFoundByNameInItsSubcategoryOnly_data();
     void ADuplicateIsFoundByNameInItsSubcategoryOnly();
     void APropertyIsWrittenByTheseStatements();
     void EmptiedNotesOfAPropertyStayInTheTable();
-    void ANewCategoryOfAKnownNameIsRefused_data();
-    void ANewCategoryOfAKnownNameIsRefused();
     void ASubcategoryWithAnApostropheFailsAndStaysInMemoryWithoutAnID();
-    void AKeyOfANodeGivesItsID_data();
     void AKeyOfANodeGivesItsID();
-    void TheWorstAlertGivesTheColour_data();
     void TheWorstAlertGivesTheColour();
     void AnAlertIsChangedInTheRowOfTheCurrentOne();
 
@@ -82,61 +74,6 @@ void tst_Records::AContactIsWrittenAndReadBackByTheseStatements()
              QStringList{u"Ann B O'Hara|5|7"_s});
 }
 
-void tst_Records::AnApostropheIsStoredWhereItIsProtected_data()
-{
-    QTest::addColumn<int>("member");
-    QTest::addColumn<bool>("inserted");
-    QTest::addColumn<bool>("updated");
-    const QStringList names{u"FirstName"_s, u"LastName"_s,   u"Salutation"_s, u"MailAddr2"_s, u"MailCity"_s,
-                            u"Company"_s,   u"ReferredBy"_s, u"Notes"_s,      u"Spouse"_s,    u"Email"_s,
-                            u"MI"_s,        u"MailZip"_s,    u"MailZip4"_s,   u"WorkPhone"_s, u"Ext"_s,
-                            u"HomePhone"_s, u"Cell"_s,       u"Fax"_s};
-    for (int i = 0; i < names.size(); ++i)
-        QTest::newRow(qPrintable(names[i])) << i << (i < 9) << (i < 10);
-}
-
-void tst_Records::AnApostropheIsStoredWhereItIsProtected()
-{
-    QFETCH(int, member);
-    QFETCH(bool, inserted);
-    QFETCH(bool, updated);
-    constexpr QString Contact::*members[]{
-        &Contact::FirstName, &Contact::LastName,   &Contact::Salutation, &Contact::MailAddr2, &Contact::MailCity,
-        &Contact::Company,   &Contact::ReferredBy, &Contact::Notes,      &Contact::Spouse,    &Contact::Email,
-        &Contact::MI,        &Contact::MailZip,    &Contact::MailZip4,   &Contact::WorkPhone, &Contact::Ext,
-        &Contact::HomePhone, &Contact::Cell,       &Contact::Fax};
-    const FreshDatabase fresh;
-    ScriptedUser user;
-    QCOMPARE(NewContact()->AddToDB(2), 1);
-    const QStringList before = FreshDatabase::WholeFile();
-
-    const auto contact = NewContact();
-    contact->MailAddr1 = u"2 Oak St"_s;
-    contact.get()->*members[member] = u"o'x"_s;
-    if (!inserted)
-        user.ExpectReport(u"Class Contact AddToDB Error #-2147217900"_s);
-    QCOMPARE(contact->AddToDB(2), inserted ? 2 : 0);
-    QCOMPARE(FreshDatabase::WholeFile() == before, !inserted);
-    if (!updated)
-        user.ExpectReport(u"Class Contact UpdtateDB Error #-2147217900"_s);
-    const QStringList beforeUpdate = FreshDatabase::WholeFile();
-    contact->UpdateDB(1);
-    QCOMPARE(FreshDatabase::WholeFile() == beforeUpdate, !updated);
-    user.Done();
-}
-
-void tst_Records::AnApostropheInTheAddressLeavesTheRowButNoID()
-{
-    const FreshDatabase fresh;
-    ScriptedUser user;
-    const auto contact = NewContact();
-    contact->MailAddr1 = u"1 O'Hara Rd"_s;
-    user.ExpectReport(u"Class Contact AddToDB Error #-2147217900"_s);
-    QCOMPARE(contact->AddToDB(2), 0);
-    QCOMPARE(FreshDatabase::Rows(u"Select MailAddr1 from Contacts"_s), QStringList{u"1 O'Hara Rd"_s});
-    user.Done();
-}
-
 void tst_Records::TheReadBackTakesTheOlderOfEqualRows()
 {
     const FreshDatabase fresh;
@@ -147,25 +84,14 @@ void tst_Records::TheReadBackTakesTheOlderOfEqualRows()
     QCOMPARE(FreshDatabase::Rows(u"Select ID from Contacts"_s).size(), 2);
 }
 
-void tst_Records::ADuplicateIsFoundByNameInItsSubcategoryOnly_data()
-{
-    QTest::addColumn<QStringList>("name");
-    QTest::addColumn<int>("subCategory");
-    QTest::addColumn<int>("key");
-    QTest::newRow("same") << QStringList{u"Ann"_s, u""_s, u"Lee"_s} << 2 << 9;
-    QTest::newRow("case and outer blanks") << QStringList{u" aNN "_s, u" "_s, u"LEE"_s} << 2 << 9;
-    QTest::newRow("another initial") << QStringList{u"Ann"_s, u"B"_s, u"Lee"_s} << 2 << 0;
-    QTest::newRow("another subcategory") << QStringList{u"Ann"_s, u""_s, u"Lee"_s} << 3 << 0;
-    QTest::newRow("inner blanks") << QStringList{u"An n"_s, u""_s, u"Lee"_s} << 2 << 0;
-}
-
 void tst_Records::ADuplicateIsFoundByNameInItsSubcategoryOnly()
 {
-    QFETCH(QStringList, name);
-    QFETCH(int, subCategory);
     const FreshDatabase fresh;
     gContacts.Add(9, NewContact());
-    QTEST(Contact::LocateContact(name[0], name[1], name[2], subCategory), "key");
+    QCOMPARE(Contact::LocateContact(u" aNN "_s, u" "_s, u"LEE"_s, 2), 9);
+    QCOMPARE(Contact::LocateContact(u"Ann"_s, u"B"_s, u"Lee"_s, 2), 0);
+    QCOMPARE(Contact::LocateContact(u"An n"_s, u""_s, u"Lee"_s, 2), 0);
+    QCOMPARE(Contact::LocateContact(u"Ann"_s, u""_s, u"Lee"_s, 3), 0);
 }
 
 void tst_Records::APropertyIsWrittenByTheseStatements()
@@ -229,35 +155,6 @@ void tst_Records::EmptiedNotesOfAPropertyStayInTheTable()
     QCOMPARE(FreshDatabase::Rows(u"Select Notes from PropDetail"_s), QStringList{u"new"_s});
 }
 
-void tst_Records::ANewCategoryOfAKnownNameIsRefused_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("id");
-    QTest::newRow("new") << u"Sellers"_s << 2;
-    QTest::newRow("with an apostrophe") << u"Friend's"_s << 2;
-    QTest::newRow("known") << u"Buyers"_s << 0;
-    QTest::newRow("known but for case and blanks") << u" BUYERS "_s << 0;
-}
-
-void tst_Records::ANewCategoryOfAKnownNameIsRefused()
-{
-    QFETCH(QString, name);
-    QFETCH(int, id);
-    const FreshDatabase fresh;
-    ScriptedUser user;
-    FreshDatabase::Execute(u"Insert into Categories (Description) Values ('Buyers')"_s);
-    LoadCategories();
-    Category category;
-    category.Description = name;
-    if (id == 0) {
-        user.Expect(u"New Category has not been Created"_s,
-                    u"I did not create "_s + name + u" because I found an existing category with the same name."_s,
-                    Answer::Ok);
-    }
-    QCOMPARE(category.CreateACategory(true), id);
-    user.Done();
-}
-
 void tst_Records::ASubcategoryWithAnApostropheFailsAndStaysInMemoryWithoutAnID()
 {
     const FreshDatabase fresh;
@@ -284,48 +181,31 @@ void tst_Records::ASubcategoryWithAnApostropheFailsAndStaysInMemoryWithoutAnID()
     user.Done();
 }
 
-void tst_Records::AKeyOfANodeGivesItsID_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<int>("id");
-    QTest::newRow("category") << u"C12"_s << 12;
-    QTest::newRow("subcategory") << u"S7"_s << 7;
-    QTest::newRow("no letter") << u"7"_s << 0;
-    QTest::newRow("nothing") << QString() << 0;
-}
-
 void tst_Records::AKeyOfANodeGivesItsID()
 {
-    QFETCH(QString, key);
-    QFETCH(int, id);
     ScriptedUser user;
-    if (id == 0)
+    QCOMPARE(GetKey(u"C12"_s), 12);
+    for (const QString& noKey : {u"7"_s, QString()}) {
         user.Expect(u"GetKey  Error #13"_s, u"Type mismatch"_s, Answer::Ok);
-    QCOMPARE(GetKey(key), id);
+        QCOMPARE(GetKey(noKey), 0);
+    }
     user.Done();
-}
-
-void tst_Records::TheWorstAlertGivesTheColour_data()
-{
-    QTest::addColumn<QList<int>>("days");
-    QTest::addColumn<int>("state");
-    QTest::newRow("none") << QList<int>{} << -1;
-    QTest::newRow("future") << QList<int>{1, 40} << 0;
-    QTest::newRow("past outranks future") << QList<int>{-1, 1} << 2;
-    QTest::newRow("today outranks past") << QList<int>{-1, 0, 1} << 1;
 }
 
 void tst_Records::TheWorstAlertGivesTheColour()
 {
-    QFETCH(QList<int>, days);
     const FreshDatabase fresh;
-    Clock::SetSource([] { return QDateTime(QDate(2026, 11, 22), QTime(23, 59)); });
-    for (const int day : days)
-        gAlerts.Add(u"A1"_s, 4, ToDate(QDate(2026, 11, 22).addDays(day)), {});
-    gAlerts.Add(u"A2"_s, 5, ToDate(QDate(2026, 11, 22)), {});
+    const QDate today(2026, 11, 22);
+    Clock::SetSource([today] { return QDateTime(today, QTime(23, 59)); });
+    gAlerts.Add(u"A2"_s, 5, ToDate(today), {}); // of somebody else
     curContact = NewContact();
     curContact->RecID = 4;
-    QTEST(static_cast<int>(AlertColor()), "state");
+    QCOMPARE(static_cast<int>(AlertColor()), -1);
+    // A future one, a past one that outranks it, and one of today that outranks both.
+    for (const auto& [day, state] : {std::pair(1, 0), std::pair(-1, 2), std::pair(0, 1), std::pair(-2, 1)}) {
+        gAlerts.Add(u"A1"_s, 4, ToDate(today.addDays(day)), {});
+        QCOMPARE(static_cast<int>(AlertColor()), state);
+    }
     Clock::SetSource({});
 }
 

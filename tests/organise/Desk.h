@@ -21,6 +21,24 @@
 #include <QMenu>
 #include <QTest>
 
+/// Chooses a node in the frmMove that opens next: a category, and one of its subcategories where `sub` is named.
+class WhenMoveOpens : public WhenFormOpens
+{
+public:
+    explicit WhenMoveOpens(int category, int sub = -1)
+        : WhenFormOpens(QStringLiteral("frmMove"), [=, this](Form& form) {
+            Caption = form.windowTitle();
+            auto& tree = Control<QTreeWidget>(form, QStringLiteral("TreeView1"));
+            QTRY_COMPARE(tree.topLevelItemCount(), 3);
+            QTreeWidgetItem* node = tree.topLevelItem(category);
+            tree.setCurrentItem(sub < 0 ? node : node->child(sub));
+            ClickOn(form, QStringLiteral("cmdButton_2"));
+        })
+    {}
+
+    QString Caption;
+};
+
 /// A started main window with its tree on a small file:
 ///   1 Buyers   1 First home: 1 Ann Lee, 2 Bob M Ray, 3 Cy Day;  2 Moving up: 4 Dee Fox
 ///   2 Sellers  3 Houses: empty

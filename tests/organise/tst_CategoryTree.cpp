@@ -11,21 +11,17 @@ class tst_CategoryTree : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void AClickTellsTheContactsInTheTitle_data();
     void AClickTellsTheContactsInTheTitle();
-    void TheMenuOffersWhatTheNodeAllows_data();
-    void TheMenuOffersWhatTheNodeAllows();
+    void TheMenuSpeaksOfTheNode();
     void TheMenuOfAnEmptyTreeOffersANewCategoryOnly();
     void ARefusedCategoryLeavesAGhostAndASecondOneTheReport();
     void ANewSubcategoryHangsUnderTheFirstNodeOfThatNumber();
-    void ARename_data();
     void ARename();
     void ACategoryMayTakeAnothersName();
     void ACategoryWithSubcategoriesStays();
     void TheLastCategoryLeavesTheTitleReady();
     void ASubcategoryGoesOnlyWithoutContacts();
     void AMoveKeepsTheCountsAsTheyWere();
-    void AMoveIsRefused_data();
     void AMoveIsRefused();
     void ADoubleClickOpensTheListOrANewContact();
     void OnlyThePersonsClicksChangeTheCurrentNode();
@@ -33,76 +29,42 @@ private Q_SLOTS:
     void TabEndsALabelEdit();
 };
 
-void tst_CategoryTree::AClickTellsTheContactsInTheTitle_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<int>("sub");
-    QTest::newRow("category") << u"C1"_s << u"Mine - 4 contacts in Buyers"_s << 0;
-    QTest::newRow("empty category") << u"C2"_s << u"Mine - no contacts in Sellers"_s << 0;
-    QTest::newRow("several") << u"S1"_s << u"Mine - 3 contacts in First home"_s << 1;
-    QTest::newRow("one") << u"S2"_s << u"Mine - 1 contact in Moving up"_s << 2;
-    QTest::newRow("none") << u"S3"_s << u"Mine - no contacts in Houses"_s << 1;
-}
-
 void tst_CategoryTree::AClickTellsTheContactsInTheTitle()
 {
-    QFETCH(QString, key);
-    QFETCH(int, sub);
     Desk desk;
     gSettings.ClientName = u"Mine"_s;
-    desk.Click(key);
-    QTEST(desk.Main->windowTitle(), "title");
-    if (sub > 0)
-        QCOMPARE(curSubIndex, sub);
-    if (key == "S3"_L1)
-        QCOMPARE(curCategoryID, 2);
-}
-
-void tst_CategoryTree::TheMenuOffersWhatTheNodeAllows_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QStringList>("captions");
-    QTest::addColumn<QString>("enabled"); // one letter for each entry
-    QTest::newRow("category") << u"C1"_s << QStringList{u"New Category"_s,  u"New SubCategory Under Buyers"_s,
-                                                        u"Rename Buyers"_s, u"Delete Buyers"_s,
-                                                        u"Move"_s,          u"View Contacts"_s,
-                                                        u"Contacts"_s}
-                              << u"yyyynnn"_s;
-    QTest::newRow("subcategory") << u"S1"_s << QStringList{u"New Category"_s,
-                                                           u"New SubCategory Under Buyers"_s,
-                                                           u"Rename First home"_s,
-                                                           u"Delete First home"_s,
-                                                           u"Move First home"_s,
-                                                           u"View First home's Contacts"_s,
-                                                           u"New Contact Under First home"_s}
-                                 << u"yyyyyyy"_s;
-    QTest::newRow("empty subcategory") << u"S3"_s << QStringList{u"New Category"_s,
-                                                                 u"New SubCategory Under Sellers"_s,
-                                                                 u"Rename Houses"_s,
-                                                                 u"Delete Houses"_s,
-                                                                 u"Move Houses"_s,
-                                                                 u"View Houses's Contacts"_s,
-                                                                 u"New Contact Under Houses"_s}
-                                       << u"yyyyyny"_s;
-}
-
-void tst_CategoryTree::TheMenuOffersWhatTheNodeAllows()
-{
-    QFETCH(QString, key);
-    Desk desk;
-    desk.Click(key, Qt::RightButton);
-    QMenu& menu = desk.Main->MainMenus().Menu(u"mnuCategory"_s);
-    QTRY_VERIFY(menu.isVisible());
-    QStringList captions;
-    QString enabled;
-    for (const QAction* entry : menu.actions()) {
-        captions << entry->text();
-        enabled += entry->isEnabled() ? u'y' : u'n';
+    for (const auto& [key, title, category, sub] : {
+             std::tuple(u"C1"_s, u"Mine - 4 contacts in Buyers"_s, 1, 0),
+             std::tuple(u"S1"_s, u"Mine - 3 contacts in First home"_s, 1, 1),
+             std::tuple(u"S2"_s, u"Mine - 1 contact in Moving up"_s, 1, 2),
+             std::tuple(u"C2"_s, u"Mine - no contacts in Sellers"_s, 2, 0),
+             std::tuple(u"S3"_s, u"Mine - no contacts in Houses"_s, 2, 1),
+         }) {
+        desk.Click(key);
+        QCOMPARE(desk.Main->windowTitle(), title);
+        QCOMPARE(curCategoryID, category);
+        if (sub > 0)
+            QCOMPARE(curSubIndex, sub);
     }
-    menu.close();
-    QTEST(captions, "captions");
-    QTEST(enabled, "enabled");
+}
+
+void tst_CategoryTree::TheMenuSpeaksOfTheNode()
+{
+    Desk desk;
+    QMenu& menu = desk.Main->MainMenus().Menu(u"mnuCategory"_s);
+    for (const auto& [key, captions] :
+         {std::pair(u"C1"_s, u"New Category|New SubCategory Under Buyers|Rename Buyers|Delete Buyers|Move|"
+                             "View Contacts|Contacts"_s),
+          std::pair(u"S1"_s, u"New Category|New SubCategory Under Buyers|Rename First home|Delete First home|"
+                             "Move First home|View First home's Contacts|New Contact Under First home"_s)}) {
+        desk.Click(key, Qt::RightButton);
+        QTRY_VERIFY(menu.isVisible());
+        QStringList shown;
+        for (const QAction* entry : menu.actions())
+            shown << entry->text();
+        menu.close();
+        QCOMPARE(shown.join(u'|'), captions);
+    }
 }
 
 void tst_CategoryTree::TheMenuOfAnEmptyTreeOffersANewCategoryOnly()
@@ -152,39 +114,31 @@ void tst_CategoryTree::ANewSubcategoryHangsUnderTheFirstNodeOfThatNumber()
     QCOMPARE(CategoryAt(3)->Subs->size(), 1U);
 }
 
-void tst_CategoryTree::ARename_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QString>("status");
-    QTest::addColumn<bool>("refused");
-    QTest::newRow("another name") << u"First house"_s << u"First house"_s << u"Renamed"_s << false;
-    QTest::newRow("an apostrophe") << u"Friend's"_s << u"Friend's"_s << u"Renamed"_s << false;
-    QTest::newRow("a sister's name") << u"MOVING UP"_s << u"First home"_s << u"Rename Cancelled"_s << true;
-    QTest::newRow("nothing") << QString() << u"First home"_s << QString() << false;
-}
-
 void tst_CategoryTree::ARename()
 {
-    QFETCH(QString, typed);
-    QFETCH(QString, label);
-    QFETCH(bool, refused);
-    Desk desk;
-    desk.Click(u"S1"_s);
-    if (refused) {
-        desk.Person.Expect(u"Rename Cancelled"_s,
-                           u"I did not rename First home because I found\r\nanother subcategory named "_s + typed +
-                               u" in Buyers."_s);
+    // To another name, with an apostrophe, to a sister's name, and to nothing.
+    for (const auto& [typed, label, status, refused] :
+         {std::tuple(u"First house"_s, u"First house"_s, u"Renamed"_s, false),
+          std::tuple(u"Friend's"_s, u"Friend's"_s, u"Renamed"_s, false),
+          std::tuple(u"MOVING UP"_s, u"First home"_s, u"Rename Cancelled"_s, true),
+          std::tuple(QString(), u"First home"_s, QString(), false)}) {
+        Desk desk;
+        desk.Click(u"S1"_s);
+        if (refused) {
+            desk.Person.Expect(u"Rename Cancelled"_s,
+                               u"I did not rename First home because I found\r\nanother subcategory named "_s + typed +
+                                   u" in Buyers."_s);
+        }
+        desk.Entry(u"mnuCatRename"_s).trigger();
+        auto* editor = desk.View().findChild<QLineEdit*>();
+        QVERIFY(editor != nullptr);
+        editor->setText(typed);
+        QTest::keyClick(editor, Qt::Key_Return);
+        QTest::qWait(0); // the label takes its text behind the key
+        QCOMPARE(desk.Tree->SelectedText(), label);
+        QCOMPARE(desk.Person.LastStatus(), status);
+        QCOMPARE(FreshDatabase::Rows(u"Select Description from SubCategories Where ID=1"_s), QStringList{label});
     }
-    desk.Entry(u"mnuCatRename"_s).trigger();
-    auto* editor = desk.View().findChild<QLineEdit*>();
-    QVERIFY(editor != nullptr);
-    editor->setText(typed);
-    QTest::keyClick(editor, Qt::Key_Return);
-    QTest::qWait(0); // the label takes its text behind the key
-    QCOMPARE(desk.Tree->SelectedText(), label);
-    QTEST(desk.Person.LastStatus(), "status");
-    QCOMPARE(FreshDatabase::Rows(u"Select Description from SubCategories Where ID=1"_s), QStringList{label});
 }
 
 void tst_CategoryTree::ACategoryMayTakeAnothersName()
@@ -272,37 +226,21 @@ void tst_CategoryTree::AMoveKeepsTheCountsAsTheyWere()
     QCOMPARE(FreshDatabase::Rows(u"Select ParentID from SubCategories Where ID=2"_s), QStringList{u"3"_s});
 }
 
-void tst_CategoryTree::AMoveIsRefused_data()
-{
-    QTest::addColumn<int>("target");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("to where it is") << 0 << u"Move has been Cancelled"_s
-                                    << u"I did not move Moving up\r\nbecause it is already in Buyers."_s;
-    QTest::newRow("to a namesake")
-        << 1 << u"Move Cancelled"_s
-        << u"I did not move Moving up\r\nbecause I have found another subcategory with the same name "
-           "in Sellers."_s;
-}
-
 void tst_CategoryTree::AMoveIsRefused()
 {
-    QFETCH(int, target);
-    QFETCH(QString, title);
-    QFETCH(QString, text);
     Desk desk;
     CategoryAt(2)->Sub(1)->Description = u"moving UP "_s;
     desk.Click(u"S2"_s);
-    desk.Person.Expect(title, text);
-    WhenFormOpens chooser(u"frmMove"_s, [target](Form& form) {
-        auto& tree = Control<QTreeWidget>(form, u"TreeView1"_s);
-        QTRY_COMPARE(tree.topLevelItemCount(), 3);
-        tree.setCurrentItem(tree.topLevelItem(target));
-        ClickOn(form, u"cmdButton_2"_s);
-    });
-    desk.Entry(u"mnuSubMove"_s).trigger();
-    QCOMPARE(desk.Person.LastStatus(), u"Moving up has not been Moved"_s);
-    QVERIFY(desk.Database.TakeStatements().isEmpty());
+    const auto refuse = [&desk](int target, const QString& title, const QString& text) {
+        desk.Person.Expect(title, text);
+        const WhenMoveOpens chooser(target);
+        desk.Entry(u"mnuSubMove"_s).trigger();
+        QCOMPARE(desk.Person.LastStatus(), u"Moving up has not been Moved"_s);
+        QVERIFY(desk.Database.TakeStatements().isEmpty());
+    };
+    refuse(0, u"Move has been Cancelled"_s, u"I did not move Moving up\r\nbecause it is already in Buyers."_s);
+    refuse(1, u"Move Cancelled"_s,
+           u"I did not move Moving up\r\nbecause I have found another subcategory with the same name in Sellers."_s);
 }
 
 void tst_CategoryTree::ADoubleClickOpensTheListOrANewContact()

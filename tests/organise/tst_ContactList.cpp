@@ -23,9 +23,7 @@ private Q_SLOTS:
     void NewAddsARowAndCancelTakesItAway();
     void TheSecondClickOnAnyHeaderTurnsTheOrder();
     void DeletingTakesEverythingWithIt();
-    void DeletingAsksInTheseWords_data();
     void DeletingAsksInTheseWords();
-    void DeletingTheLastRowClosesTheList();
     void MovingContactsMovesTheCounts();
     void AMoveToTheSameSubcategoryIsRefused();
     void TheChooserWantsASubcategory();
@@ -34,7 +32,6 @@ private Q_SLOTS:
     void AnEmptyListHasNothingToSortOrChange();
     void AClosedListIsNotThereForTheOthers();
     void ClosingTheListUnderACategoryTellsNothing();
-    void UnselectingAllAsksFirst_data();
     void UnselectingAllAsksFirst();
 
 private:
@@ -258,44 +255,23 @@ void tst_ContactList::DeletingTakesEverythingWithIt()
     QCOMPARE(FreshDatabase::Rows(u"Select ID from Alerts"_s), QStringList{u"2"_s});
 }
 
-void tst_ContactList::DeletingAsksInTheseWords_data()
-{
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QList<int>>("selected");
-    QTest::addColumn<QString>("question");
-    QTest::newRow("one highlighted") << static_cast<int>(DeleteMode::Hilited) << QList<int>{} << u"Delete Ann Lee?"_s;
-    QTest::newRow("one selected") << static_cast<int>(DeleteMode::Selected) << QList<int>{4}
-                                  << u"Do you want me to permanently delete Dee Fox?"_s;
-    QTest::newRow("several selected") << static_cast<int>(DeleteMode::Selected) << QList<int>{4, 2}
-                                      << u"Do you want me to permanently delete the 2 Selected Contacts?"_s;
-    QTest::newRow("the current one") << static_cast<int>(DeleteMode::Current) << QList<int>{}
-                                     << u"Do you want me to permanently delete Ann Lee?"_s;
-}
-
 void tst_ContactList::DeletingAsksInTheseWords()
 {
-    QFETCH(int, mode);
-    QFETCH(QList<int>, selected);
-    QFETCH(QString, question);
     Desk desk;
     desk.OpenList(u"S1"_s);
-    for (const int id : selected) {
-        curContact = ContactAt(id);
-        SelectCurContact();
-    }
-    curContact = ContactAt(1);
-    desk.Person.Expect(u"Please Confirm Before I Proceed"_s, question, Answer::No);
-    DeleteContacts(static_cast<DeleteMode>(mode));
-}
-
-void tst_ContactList::DeletingTheLastRowClosesTheList()
-{
-    Desk desk;
-    desk.OpenList(u"S2"_s);
-    desk.Person.Expect(u"Please Confirm Before I Proceed"_s, u"Delete Dee Fox?"_s, Answer::Yes);
-    Entry(u"mnuDelete"_s).trigger();
-    QVERIFY(!IsLoaded(u"frmList"_s));
-    QVERIFY(Face<ContactListFace>::Get() == nullptr || Face<ContactListFace>::Get()->Rows() == 0);
+    const auto refuse = [&desk](DeleteMode mode, const QString& question) {
+        curContact = ContactAt(1);
+        desk.Person.Expect(u"Please Confirm Before I Proceed"_s, question, Answer::No);
+        DeleteContacts(mode);
+    };
+    refuse(DeleteMode::Hilited, u"Delete Ann Lee?"_s);
+    refuse(DeleteMode::Current, u"Do you want me to permanently delete Ann Lee?"_s);
+    curContact = ContactAt(4);
+    SelectCurContact();
+    refuse(DeleteMode::Selected, u"Do you want me to permanently delete Dee Fox?"_s);
+    curContact = ContactAt(2);
+    SelectCurContact();
+    refuse(DeleteMode::Selected, u"Do you want me to permanently delete the 2 Selected Contacts?"_s);
 }
 
 void tst_ContactList::MovingContactsMovesTheCounts()
@@ -310,12 +286,7 @@ void tst_ContactList::MovingContactsMovesTheCounts()
                        u"Do you want me to move all the highlighted contacts to Houses?"_s, Answer::Yes);
     // One that is refused does not keep the other from moving.
     desk.Person.ExpectReport(u"Class Contact UpdtateDB Error #-2147217900"_s);
-    WhenFormOpens chooser(u"frmMove"_s, [](Form& form) {
-        auto& tree = Control<QTreeWidget>(form, u"TreeView1"_s);
-        QTRY_COMPARE(tree.topLevelItemCount(), 3);
-        tree.setCurrentItem(tree.topLevelItem(1)->child(0));
-        ClickOn(form, u"cmdButton_2"_s);
-    });
+    const WhenMoveOpens chooser(1, 0);
     Entry(u"mnuMove"_s).trigger();
     QCOMPARE(gReturnValue, u"1-2"_s);
     QCOMPARE(grid.Rows(), 1);
@@ -337,14 +308,9 @@ void tst_ContactList::AMoveToTheSameSubcategoryIsRefused()
     desk.Person.Expect(u"Move has been Cancelled"_s,
                        u"I have cancelled the move operation because the destination\r\nsubcategory is the same as the "
                        "current subcategory."_s);
-    WhenFormOpens chooser(u"frmMove"_s, [](Form& form) {
-        QCOMPARE(form.windowTitle(), u"Do you want me to move all the highlighted contacts to "_s);
-        auto& tree = Control<QTreeWidget>(form, u"TreeView1"_s);
-        QTRY_COMPARE(tree.topLevelItemCount(), 3);
-        tree.setCurrentItem(tree.topLevelItem(0)->child(0));
-        ClickOn(form, u"cmdButton_2"_s);
-    });
+    const WhenMoveOpens chooser(0, 0);
     Entry(u"mnuMove"_s).trigger();
+    QCOMPARE(chooser.Caption, u"Do you want me to move all the highlighted contacts to "_s);
     QCOMPARE(grid.Rows(), 3);
 }
 
@@ -401,6 +367,7 @@ void tst_ContactList::AnEmptyListHasNothingToSortOrChange()
     Q_EMIT menu.aboutToShow();
     QVERIFY(!Entry(u"mnuModify"_s).isEnabled());
     QVERIFY(!Entry(u"mnuDelete"_s).isEnabled());
+    QVERIFY(!Entry(u"mnuNewProperty"_s).isEnabled());
     QVERIFY(Entry(u"mnuNew"_s).isEnabled());
 }
 
@@ -423,30 +390,24 @@ void tst_ContactList::ClosingTheListUnderACategoryTellsNothing()
     QCOMPARE(desk.Main->windowTitle(), title);
 }
 
-void tst_ContactList::UnselectingAllAsksFirst_data()
-{
-    QTest::addColumn<QList<int>>("selected");
-    QTest::addColumn<QString>("question");
-    QTest::newRow("one") << QList<int>{2} << u"Do you want me to unselect Bob M Ray?"_s;
-    QTest::newRow("several") << QList<int>{2, 4} << u"Do you want me to unselect All 2 contacts?"_s;
-}
-
 void tst_ContactList::UnselectingAllAsksFirst()
 {
-    QFETCH(QList<int>, selected);
-    QFETCH(QString, question);
     Desk desk;
-    for (const int id : selected) {
-        curContact = ContactAt(id);
-        SelectCurContact();
+    for (const auto& [selected, question] :
+         {std::pair(QList<Long>{2}, u"Do you want me to unselect Bob M Ray?"_s),
+          std::pair(QList<Long>{2, 4}, u"Do you want me to unselect All 2 contacts?"_s)}) {
+        for (const Long id : selected) {
+            curContact = ContactAt(id);
+            SelectCurContact();
+        }
+        desk.Person.Expect(u"Please Confirm Before I Proceed"_s, question, Answer::No);
+        UnselectAll();
+        QCOMPARE(gSelected.Count(), selected.size());
+        desk.Person.Expect(u"Please Confirm Before I Proceed"_s, question, Answer::Yes);
+        UnselectAll();
+        QVERIFY(gSelected.IsEmpty());
+        QCOMPARE(curContact->RecID, 2); // the earliest selected one is the last to go
     }
-    desk.Person.Expect(u"Please Confirm Before I Proceed"_s, question, Answer::No);
-    UnselectAll();
-    QCOMPARE(gSelected.Count(), selected.size());
-    desk.Person.Expect(u"Please Confirm Before I Proceed"_s, question, Answer::Yes);
-    UnselectAll();
-    QVERIFY(gSelected.IsEmpty());
-    QCOMPARE(curContact->RecID, 2); // the earliest selected one is the last to go
 }
 
 QTEST_MAIN(tst_ContactList)

@@ -136,14 +136,10 @@ void tst_FoundAndOthers::SeveralDefaultPropertiesAreToldOneByOne()
     ContactAt(2)->DefaultProperty = 3;
     desk.Properties();
     desk.Search();
-    const QString notice = u"Please note that you have deleted this contact's Default Property. It is\r\n"
-                           "important that you remember to assign a new Default Property for this\r\n"
-                           "contact to prevent missing detail in Mail Merges that contain property\r\n"
-                           "information."_s;
     desk.Found().selectAll();
     desk.Person.Expect(question, u"Do you want me to permanently delete the highlighted Properties?"_s, Answer::Yes);
-    desk.Person.Expect(u"Default Property Deleted for Bob M Ray"_s, notice);
-    desk.Person.Expect(u"Default Property Deleted for Ann Lee"_s, notice);
+    desk.Person.ExpectReport(u"Default Property Deleted for Bob M Ray"_s);
+    desk.Person.ExpectReport(u"Default Property Deleted for Ann Lee"_s);
     desk.Entry("mnuDeleteHilitedProperties").trigger();
     QCOMPARE(ContactAt(2)->DefaultProperty, 0);
     QCOMPARE(ContactAt(1)->DefaultProperty, 0);

@@ -1,3 +1,4 @@
+#include "support/Columns.h"
 #include "sweeps/Office.h"
 #include "sweeps/Sweeps.h"
 #include "ui/frame/frmMain.h"
@@ -163,9 +164,7 @@ void tst_Windows::AScreenReaderHasANameForEveryControl()
 
 void tst_Windows::NothingIsCut_data()
 {
-    QTest::addColumn<QString>("window");
-    QTest::addColumn<bool>("smallest");
-    QTest::addColumn<double>("letters");
+    AddColumns<QString, bool, double>({"window", "smallest", "letters"});
     for (const OfficeWindow& window : Office::Windows()) {
         const QByteArray name = window.Name.toUtf8();
         QTest::addRow("%s", name.constData()) << window.Name << false << 1.0;
@@ -208,9 +207,7 @@ void tst_Windows::TheSmallestWindowFitsALaptop()
 
 void tst_Windows::MainMenusFollowTheState_data()
 {
-    QTest::addColumn<bool>("empty");
-    QTest::addColumn<QString>("node");
-    QTest::addColumn<QStringList>("category");
+    AddColumns<bool, QString, QStringList>({"empty", "node", "category"});
     const QStringList root{u"mnuCatCreate"_s, u"mnuSubCreate"_s, u"mnuCatRename"_s, u"mnuCatDelete"_s};
     QTest::newRow("an empty program") << true << QString() << QStringList{u"mnuCatCreate"_s};
     QTest::newRow("nothing clicked yet") << false << QString() << QStringList{u"mnuCatCreate"_s};
@@ -249,10 +246,7 @@ void tst_Windows::MainMenusFollowTheState()
 
 void tst_Windows::ListMenuFollowsTheRows_data()
 {
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<bool>("selected");
-    QTest::addColumn<QStringList>("entries");
+    AddColumns<int, int, bool, QStringList>({"from", "to", "selected", "entries"});
     const auto one = [](const QString& select, const QStringList& properties) {
         return QStringList{u"mnuNew"_s,          u"mnuModify"_s,   select,       u"mnuDelete"_s, u"mnuMove"_s,
                            u"mnuManageAlerts"_s, u"mnuNewAlert"_s, u"mnuWord"_s, u"mnuNotes"_s} +

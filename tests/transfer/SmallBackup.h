@@ -40,6 +40,14 @@ inline QString Written(const Agency& agency, const QByteArray& bytes)
     return file.fileName();
 }
 
+inline QByteArray BytesOf(const QString& name)
+{
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s can't be read", qPrintable(name));
+    return file.readAll();
+}
+
 /// Whether the program still works: a new contact can be saved.
 inline bool IsUsable()
 {

@@ -1,3 +1,4 @@
+#include "support/Columns.h"
 #include "transfer/CutSections.h"
 
 #include <QBuffer>
@@ -18,10 +19,7 @@ private Q_SLOTS:
 
 void tst_CutSections::IsCutBehindClosingTags_data()
 {
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<int>("sections");
-    QTest::addColumn<bool>("lastTakesRest");
-    QTest::addColumn<QList<QByteArray>>("cut");
+    AddColumns<QByteArray, int, bool, QList<QByteArray>>({"file", "sections", "lastTakesRest", "cut"});
 
     const auto row = [](const char* name, const char* file, int sections, bool rest, const QList<QByteArray>& cut) {
         QTest::newRow(name) << QByteArray(file) << sections << rest << cut;

@@ -34,7 +34,6 @@ private Q_SLOTS:
     void AlertsOfOneDayAreAllRestored();
     void AContactWithoutAnIDIsLeftOutWithWhatHangsOnIt_data();
     void AContactWithoutAnIDIsLeftOutWithWhatHangsOnIt();
-    void PropertiesOfAPurgedContactEndTheRestore();
     void AnAlertFallsOnTheOneAtItsPlace();
     void TheMenuRunsEachTransfer();
     void TheHighlightedAreExported();
@@ -119,25 +118,6 @@ void tst_ImportedRows::AContactWithoutAnIDIsLeftOutWithWhatHangsOnIt()
     agency.StartAnew();
     QCOMPARE(gContacts.Count(), rows[0]);
     QCOMPARE(gAlerts.Count(), rows[1]);
-}
-
-void tst_ImportedRows::PropertiesOfAPurgedContactEndTheRestore()
-{
-    Agency agency(Agency::File::Small);
-    FreshDatabase::Execute(u"Update Contacts set SubCategoryID=77 Where ID=1"_s);
-    FreshDatabase::Execute(u"Delete from Alerts Where ContactID=1"_s);
-    agency.StartAnew();
-    QCOMPARE(RowsIn("Contacts"_L1), 2);
-    const QString backup = agency.Backup(u"orphan.xml"_s);
-    agency.Name(backup);
-    agency.ExpectRestoreQuestion(Answer::Yes);
-    agency.Person.ExpectReport(u"StartImport Error #424"_s);
-    agency.Person.ExpectReport(u"Database Restored"_s);
-    ImportData(true);
-    QCOMPARE(RowsIn("Contacts"_L1), 2);
-    QCOMPARE(RowsIn("Alerts"_L1), 1);
-    QCOMPARE(RowsIn("PropDetail"_L1), 0);
-    QCOMPARE(RowsIn("FormLetters"_L1), 0);
 }
 
 void tst_ImportedRows::AnAlertFallsOnTheOneAtItsPlace()

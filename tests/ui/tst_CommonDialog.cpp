@@ -1,4 +1,4 @@
-#include "core/RunTimeError.h"
+#include "core/ErrorOf.h"
 #include "support/Windows.h"
 #include "ui/widgets/CommonDialog.h"
 
@@ -18,7 +18,6 @@ class tst_CommonDialog : public QObject
 
 private Q_SLOTS:
     void cleanup() { CommonDialog::SetSource({}); }
-    void the_default_extension_data();
     void the_default_extension();
     void a_file_that_is_there_is_opened_as_it_was_chosen();
     void a_cancel_leaves_the_name_or_raises();
@@ -29,25 +28,20 @@ private:
     QTemporaryDir m_folder;
 };
 
-void tst_CommonDialog::the_default_extension_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("title");
-    QTest::newRow("is appended to a bare name") << u"contacts"_s << u"contacts.ocm"_s;
-    QTest::newRow("gives way to one that was typed") << u"contacts.txt"_s << u"contacts.txt"_s;
-    QTest::newRow("is not looked for in folders") << u"my.folder/contacts"_s << u"contacts.ocm"_s;
-}
-
 void tst_CommonDialog::the_default_extension()
 {
-    QFETCH(QString, typed);
-    CommonDialog::SetSource([&typed](const CommonDialog&, bool) { return typed; });
     CommonDialog dialog;
-    dialog.InitDir = m_folder.path();
-    dialog.DefaultExt = u"ocm"_s;
-    dialog.ShowSave(nullptr);
-    QTEST(dialog.FileTitle(), "title");
-    QVERIFY(dialog.FileName.startsWith(m_folder.path()));
+    // It gives way to one that was typed, and is not looked for in folders.
+    for (const auto& [typed, title] :
+         {std::pair(u"contacts"_s, u"contacts.ocm"_s), std::pair(u"contacts.txt"_s, u"contacts.txt"_s),
+          std::pair(u"my.folder/contacts"_s, u"contacts.ocm"_s)}) {
+        CommonDialog::SetSource([typed = typed](const CommonDialog&, bool) { return typed; });
+        dialog.InitDir = m_folder.path();
+        dialog.DefaultExt = u"ocm"_s;
+        dialog.ShowSave(nullptr);
+        QCOMPARE(dialog.FileTitle(), title);
+        QVERIFY(dialog.FileName.startsWith(m_folder.path()));
+    }
 }
 
 void tst_CommonDialog::a_file_that_is_there_is_opened_as_it_was_chosen()
@@ -72,13 +66,7 @@ void tst_CommonDialog::a_cancel_leaves_the_name_or_raises()
     dialog.ShowOpen(nullptr);
     QCOMPARE(dialog.FileName, u"before"_s);
     dialog.CancelError = true;
-    int number = 0;
-    try {
-        dialog.ShowOpen(nullptr);
-    } catch (const RunTimeError& error) {
-        number = error.Number();
-    }
-    QCOMPARE(number, 32755);
+    QCOMPARE(ErrorOf([&] { dialog.ShowOpen(nullptr); }), 32755);
 }
 
 void tst_CommonDialog::the_window_gives_what_is_typed()

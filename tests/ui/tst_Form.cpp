@@ -66,8 +66,6 @@ private Q_SLOTS:
     void the_focus_coming_back_from_another_window_activates();
     void a_message_box_does_not_activate();
     void a_modal_window_returns_when_it_is_unloaded_and_wakes_the_one_beneath();
-    void a_modal_window_returns_when_it_is_hidden();
-    void a_modeless_window_deletes_itself();
     void the_close_box_asks_first();
     void unloading_all_skips_the_named_one();
     void the_main_window_takes_everything_along_once();
@@ -159,23 +157,6 @@ void tst_Form::a_modal_window_returns_when_it_is_unloaded_and_wakes_the_one_bene
     QTRY_COMPARE(happened, (QStringList{u"frmB activate"_s, u"frmB query 1"_s, u"frmB unload"_s, u"frmA activate"_s}));
     b.ShowModal(a);
     QVERIFY2(!b.isVisible(), "an unloaded window is not shown again");
-}
-
-void tst_Form::a_modal_window_returns_when_it_is_hidden()
-{
-    Window b(u"frmB"_s);
-    QTimer::singleShot(20, &b, &QWidget::hide);
-    b.ShowModal();
-    QVERIFY(IsLoaded(u"frmB"_s));
-}
-
-void tst_Form::a_modeless_window_deletes_itself()
-{
-    const QPointer<Window> a = new Window(u"frmA"_s);
-    a->Show();
-    a->Unload();
-    QVERIFY(!a.isNull());
-    QTRY_VERIFY(a.isNull());
 }
 
 void tst_Form::the_close_box_asks_first()

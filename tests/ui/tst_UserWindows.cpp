@@ -1,4 +1,4 @@
-#include "support/ScriptedUser.h"
+#include "support/Columns.h"
 #include "support/Windows.h"
 #include "ui/widgets/Theme.h"
 #include "ui/widgets/UserWindows.h"
@@ -21,22 +21,17 @@ private Q_SLOTS:
     void the_keys_of_a_box_data();
     void the_keys_of_a_box();
     void a_box_shows_plain_text_and_its_line_breaks();
-    void a_long_text_stays_on_the_screen_data();
     void a_long_text_stays_on_the_screen();
-    void asking_for_a_line_data();
     void asking_for_a_line();
     void the_limit_of_a_line_holds();
     void an_hourglass_counts_and_makes_way_for_a_box();
     void the_status_bar_hears_messages_and_bare_counts();
     void the_scheme_decides_the_palette();
-    void a_scripted_person_answers_in_order_and_writes_down();
 };
 
 void tst_UserWindows::the_keys_of_a_box_data()
 {
-    QTest::addColumn<int>("buttons");
-    QTest::addColumn<QList<int>>("keys");
-    QTest::addColumn<int>("answer");
+    AddColumns<int, QList<int>, int>({"buttons", "keys", "answer"});
     const auto row = [](const char* name, Buttons buttons, const QList<int>& keys, Answer answer) {
         QTest::newRow(name) << static_cast<int>(buttons) << keys << static_cast<int>(answer);
     };
@@ -82,64 +77,49 @@ void tst_UserWindows::a_box_shows_plain_text_and_its_line_breaks()
     QCOMPARE(format, Qt::PlainText);
 }
 
-void tst_UserWindows::a_long_text_stays_on_the_screen_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("scrolls");
-    QTest::newRow("many words") << u"word "_s.repeated(200) << false;
-    QTest::newRow("one endless word") << QString(2000, u'x') << true;
-    QTest::newRow("many lines") << u"line\r\n"_s.repeated(500) << true;
-}
-
 void tst_UserWindows::a_long_text_stays_on_the_screen()
 {
-    QFETCH(QString, text);
     UserWindows user;
-    QRect place;
-    bool scrolls = false;
-    const WhenBoxOpens box([&](QMessageBox& window) {
-        place = window.frameGeometry();
-        scrolls = window.findChild<QPlainTextEdit*>() != nullptr;
-    });
-    user.MsgBox(text, Buttons::Ok, Icon::Information, u"Title"_s);
     const QRect screen = QApplication::primaryScreen()->availableGeometry();
-    QVERIFY2(screen.contains(place), qPrintable(u"%1x%2"_s.arg(place.width()).arg(place.height())));
-    QTEST(scrolls, "scrolls");
-}
-
-void tst_UserWindows::asking_for_a_line_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QString>("reply");
-    QTest::newRow("Ok") << u"cmdButton_2"_s << 0 << u"Buyers"_s;
-    QTest::newRow("Cancel") << u"cmdButton_1"_s << 0 << u""_s;
-    QTest::newRow("Enter") << u""_s << int(Qt::Key_Enter) << u"Buyers"_s;
-    QTest::newRow("Esc") << u""_s << int(Qt::Key_Escape) << u""_s;
-    QTest::newRow("the close box") << u""_s << 0 << u""_s;
-    QTest::newRow("Enter on Cancel is still Ok") << u"focus"_s << int(Qt::Key_Return) << u"Buyers"_s;
+    for (const auto& [text, mustScroll] :
+         {std::pair(u"word "_s.repeated(200), false), std::pair(QString(2000, u'x'), true),
+          std::pair(u"line\r\n"_s.repeated(500), true)}) {
+        QRect place;
+        bool scrolls = false;
+        const WhenBoxOpens box([&](QMessageBox& window) {
+            place = window.frameGeometry();
+            scrolls = window.findChild<QPlainTextEdit*>() != nullptr;
+        });
+        user.MsgBox(text, Buttons::Ok, Icon::Information, u"Title"_s);
+        QVERIFY2(screen.contains(place), qPrintable(u"%1x%2"_s.arg(place.width()).arg(place.height())));
+        QCOMPARE(scrolls, mustScroll);
+    }
 }
 
 void tst_UserWindows::asking_for_a_line()
 {
-    QFETCH(QString, button);
-    QFETCH(int, key);
-    UserWindows user;
-    QString title;
-    const WhenFormOpens dialog(u"frmDialog"_s, [&](Form& form) {
-        title = form.windowTitle();
-        TypeText(form, u"Buyers"_s);
-        if (button == u"focus"_s)
-            Control<QWidget>(form, u"cmdButton_1"_s).setFocus();
-        if (key != 0)
-            TypeKey(form, static_cast<Qt::Key>(key));
-        else if (button.isEmpty())
-            form.close();
-        else
-            ClickOn(form, button);
-    });
-    QTEST(user.AskFor(u"New Category Name"_s, 0), "reply");
-    QCOMPARE(title, u"New Category Name"_s);
+    // By a button, by a key, by the close box, and by Enter on Cancel, which is still Ok.
+    for (const auto& [button, key, reply] :
+         {std::tuple(u"cmdButton_2"_s, 0, u"Buyers"_s), std::tuple(u"cmdButton_1"_s, 0, u""_s),
+          std::tuple(u""_s, int(Qt::Key_Enter), u"Buyers"_s), std::tuple(u""_s, int(Qt::Key_Escape), u""_s),
+          std::tuple(u""_s, 0, u""_s), std::tuple(u"focus"_s, int(Qt::Key_Return), u"Buyers"_s)}) {
+        UserWindows user;
+        QString title;
+        const WhenFormOpens dialog(u"frmDialog"_s, [&](Form& form) {
+            title = form.windowTitle();
+            TypeText(form, u"Buyers"_s);
+            if (button == u"focus"_s)
+                Control<QWidget>(form, u"cmdButton_1"_s).setFocus();
+            if (key != 0)
+                TypeKey(form, static_cast<Qt::Key>(key));
+            else if (button.isEmpty())
+                form.close();
+            else
+                ClickOn(form, button);
+        });
+        QCOMPARE(user.AskFor(u"New Category Name"_s, 0), reply);
+        QCOMPARE(title, u"New Category Name"_s);
+    }
 }
 
 void tst_UserWindows::the_limit_of_a_line_holds()
@@ -205,19 +185,6 @@ void tst_UserWindows::the_scheme_decides_the_palette()
     QCOMPARE(QApplication::palette().color(QPalette::Highlight), QColor(0x2F6DB5));
     QVERIFY(QApplication::palette().color(QPalette::Window).lightness() > 128);
     QVERIFY(contrast() > 150);
-}
-
-void tst_UserWindows::a_scripted_person_answers_in_order_and_writes_down()
-{
-    ScriptedUser user;
-    user.Expect(u"Title"_s, u"Text"_s, Answer::Yes);
-    user.ExpectAskFor(u"Caption"_s, u"reply"_s);
-    QCOMPARE(MsgBox(u"Text"_s, Buttons::YesNo, Icon::Question, u"Title"_s), Answer::Yes);
-    QCOMPARE(AskFor(u"Caption"_s, 5), u"reply"_s);
-    QCOMPARE(user.LastBox().Picture, Icon::Question);
-    QCOMPARE(user.LastMaxLength(), 5);
-    ShoWait(u"Saved"_s);
-    QCOMPARE(user.LastStatus(), u"Saved"_s);
 }
 
 QTEST_MAIN(tst_UserWindows)
