@@ -47,6 +47,8 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override
     {
         switch (metric) {
+        case PM_MenuPanelWidth:
+            return 1; // the rim of a menu is drawn
         case PM_LayoutHorizontalSpacing:
         case PM_LayoutVerticalSpacing:
         case PM_LayoutLeftMargin:
