@@ -208,8 +208,7 @@ int Recordset::Asked(int column) const
 
 void Recordset::RunOnStore(const QString& text, const std::vector<QVariant>& values)
 {
-    m_connection->Counted(
-        [&] { static_cast<void>(m_connection->OpenEngine().Prepare(text, values, true)->Step()); });
+    m_connection->Counted([&] { static_cast<void>(m_connection->OpenEngine().Prepare(text, values, true)->Step()); });
 }
 
 void Recordset::Update()
